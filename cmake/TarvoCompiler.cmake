@@ -1,0 +1,57 @@
+# Language level, warnings and instrumentation, the same for every target of the project.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(TARVO_CCACHE ccache)
+if(TARVO_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARVO_CCACHE})
+endif()
+
+add_library(tarvo_options INTERFACE)
+target_compile_options(tarvo_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough -Wundef)
+if(TARVO_WERROR)
+  target_compile_options(tarvo_options INTERFACE -Werror)
+endif()
+
+if(TARVO_SANITIZE)
+  add_compile_options(-fsanitize=${TARVO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${TARVO_SANITIZE})
+endif()
+if(TARVO_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()
+
+# tarvo_library(NAME SOURCES ... [LINK ...])
+# A static library of one folder under src/, included by paths that start at src/; headers only without sources.
+function(tarvo_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+  if(NOT arg_SOURCES)
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} INTERFACE ${arg_LINK})
+    return()
+  endif()
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE tarvo_options)
+endfunction()
+
+# tarvo_test(NAME SOURCES ... [LINK ...])
+# One GoogleTest program; every test in it is one CTest test named NAME.Suite.Case.
+function(tarvo_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+  add_executable(${name} ${arg_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${arg_LINK} tarvo_test_support tarvo_options GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+  target_compile_definitions(${name} PRIVATE TARVO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+  gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+endfunction()

@@ -10,8 +10,8 @@
 
 namespace tarvo {
 
-/// Everything the model asks of the rest of the program, one function a reading. A function that is not set answers
-/// nothing: the fields it would fill keep their empty values. The composition root connects them.
+/// Everything the model asks of the rest of the program, one function a reading. A function that is not set
+/// answers nothing: the fields it would fill keep their empty values. The composition root connects them.
 struct StatsReaders {
     // Main thread, every tick; must return at once.
     std::function<const CPUUsage&()> cpuUsage; ///< the reference is valid until the next call

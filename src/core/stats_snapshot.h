@@ -70,20 +70,20 @@ struct StatsSnapshot {
     bool hasFan = false;
     std::vector<double> fanRPMs; ///< revolutions per minute, fan-index order
     std::optional<double> powerWatts;
-    std::optional<double> diskFreeGB;  ///< slow cadence
-    std::optional<double> diskTotalGB; ///< slow cadence
-    double diskReadRate = 0;           ///< detail cadence
-    double diskWriteRate = 0;          ///< detail cadence
-    double netInRate = 0;              ///< every tick
-    double netOutRate = 0;             ///< every tick
-    std::optional<std::string> localIP;  ///< dotted decimal; detail cadence
-    std::optional<std::string> publicIP; ///< every 300 s once started
-    std::uint64_t totalNetIn = 0;        ///< bytes; every tick
-    std::uint64_t totalNetOut = 0;       ///< bytes; every tick
-    std::optional<BatteryInfo> battery;  ///< slow cadence
-    std::vector<ProcInfo> topCPU;        ///< process cadence, heaviest first
-    std::vector<ProcInfo> topMem;        ///< process cadence, heaviest first
-    std::vector<NetProcInfo> topNetProcesses; ///< extras cadence
+    std::optional<double> diskFreeGB;           ///< slow cadence
+    std::optional<double> diskTotalGB;          ///< slow cadence
+    double diskReadRate = 0;                    ///< detail cadence
+    double diskWriteRate = 0;                   ///< detail cadence
+    double netInRate = 0;                       ///< every tick
+    double netOutRate = 0;                      ///< every tick
+    std::optional<std::string> localIP;         ///< dotted decimal; detail cadence
+    std::optional<std::string> publicIP;        ///< every 300 s once started
+    std::uint64_t totalNetIn = 0;               ///< bytes; every tick
+    std::uint64_t totalNetOut = 0;              ///< bytes; every tick
+    std::optional<BatteryInfo> battery;         ///< slow cadence
+    std::vector<ProcInfo> topCPU;               ///< process cadence, heaviest first
+    std::vector<ProcInfo> topMem;               ///< process cadence, heaviest first
+    std::vector<NetProcInfo> topNetProcesses;   ///< extras cadence
     std::optional<TimeMachineInfo> timeMachine; ///< extras cadence
     std::optional<std::string> wifiSSID;        ///< extras cadence
     bool operator==(const StatsSnapshot&) const = default;

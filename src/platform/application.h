@@ -33,6 +33,7 @@ struct WindowOptions {
 };
 
 /// Makes a window, centred on the screen; `willClose` runs when the user closes it.
-using WindowFactory = std::function<std::unique_ptr<Window>(const WindowOptions&, std::function<void()> willClose)>;
+using WindowFactory =
+    std::function<std::unique_ptr<Window>(const WindowOptions&, std::function<void()> willClose)>;
 
 } // namespace tarvo

@@ -40,11 +40,13 @@ struct MemoryStatistics {
     std::optional<SwapUsage> swap;       ///< absent when the query failed
 };
 
-/// Processor, memory and load counters of the machine. Main thread only; every call is one quick kernel query.
+/// Processor, memory and load counters of the machine. Main thread only; every call is one quick kernel
+/// query.
 class HostStatistics {
 public:
     virtual ~HostStatistics() = default;
-    /// Replaces the list by one entry a core, in the kernel's order. False, and the list unspecified, on failure.
+    /// Replaces the list by one entry a core, in the kernel's order. False, and the list unspecified, on
+    /// failure.
     virtual bool processorLoad(std::vector<CoreTicks>& cores) = 0;
     virtual MemoryStatistics memory() = 0;
     /// 1-, 5- and 15-minute load averages; absent on failure.

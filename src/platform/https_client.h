@@ -15,7 +15,8 @@ public:
 
     virtual ~HTTPSClient() = default;
     /// Returns at once. The time-out bounds the whole request.
-    virtual void fetch(const std::string& address, std::chrono::milliseconds timeout, Completion completion) = 0;
+    virtual void fetch(const std::string& address, std::chrono::milliseconds timeout,
+                       Completion completion) = 0;
 };
 
 } // namespace tarvo

@@ -6,7 +6,9 @@ namespace tarvo {
 namespace {
 
 /// Doubles that an integer can hold; the bounds are exact powers of two.
-bool fitsInteger(double value) { return value >= -0x1p63 && value < 0x1p63; }
+bool fitsInteger(double value) {
+    return value >= -0x1p63 && value < 0x1p63;
+}
 
 } // namespace
 

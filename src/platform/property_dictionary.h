@@ -13,13 +13,16 @@ namespace tarvo {
 class PropertyDictionary;
 
 /// A value as a system service describes it. A dictionary is held by pointer and never null.
-using PropertyValue =
-    std::variant<bool, std::int64_t, std::uint64_t, double, std::string, std::shared_ptr<const PropertyDictionary>>;
+using PropertyValue = std::variant<bool, std::int64_t, std::uint64_t, double, std::string,
+                                   std::shared_ptr<const PropertyDictionary>>;
 
-/// String keys to typed values. Every getter answers absent for a missing key and for a value of another type.
+/// String keys to typed values. Every getter answers absent for a missing key and for a value of another
+/// type.
 class PropertyDictionary {
 public:
-    void set(std::string key, PropertyValue value) { values_.insert_or_assign(std::move(key), std::move(value)); }
+    void set(std::string key, PropertyValue value) {
+        values_.insert_or_assign(std::move(key), std::move(value));
+    }
     void set(std::string key, PropertyDictionary value) {
         set(std::move(key), PropertyValue(std::make_shared<const PropertyDictionary>(std::move(value))));
     }

@@ -59,8 +59,8 @@ struct SymbolImage {
     bool operator==(const SymbolImage&) const = default;
 };
 
-/// A drawing of round-capped, round-joined lines, independent of resolution. Origin at the bottom left, y upwards;
-/// what lies outside the size is clipped. Never a template: it carries its own colours.
+/// A drawing of round-capped, round-joined lines, independent of resolution. Origin at the bottom left, y
+/// upwards; what lies outside the size is clipped. Never a template: it carries its own colours.
 struct LineDrawing {
     struct Stroke {
         SystemColor color = SystemColor::label;

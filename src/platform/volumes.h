@@ -22,8 +22,8 @@ public:
     virtual ~Volumes() = default;
     /// The volume of "/"; absent when the query fails. Returns at once.
     virtual std::optional<VolumeValues> root() = 0;
-    /// Mounted volumes without the hidden ones, in the platform's order. May wait on a slow disk: not on the main
-    /// thread. Absent when the platform returns no list.
+    /// Mounted volumes without the hidden ones, in the platform's order. May wait on a slow disk: not on the
+    /// main thread. Absent when the platform returns no list.
     virtual std::optional<std::vector<VolumeValues>> mounted() = 0;
 };
 

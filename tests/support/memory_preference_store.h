@@ -22,7 +22,9 @@ public:
         if (const auto position = values.find(key); position != values.end()) values.erase(position);
         observers_.notify();
     }
-    Subscription observe(std::function<void()> changed) override { return observers_.observe(std::move(changed)); }
+    Subscription observe(std::function<void()> changed) override {
+        return observers_.observe(std::move(changed));
+    }
 
     std::map<std::string, PreferenceValue, std::less<>> values;
     int writes = 0;

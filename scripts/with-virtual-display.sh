@@ -25,7 +25,7 @@ export DISPLAY=:$number
 unset WAYLAND_DISPLAY
 [ -n "${XDG_RUNTIME_DIR:-}" ] || { mkdir -m 700 "$folder/runtime"; export XDG_RUNTIME_DIR=$folder/runtime; }
 
-openbox 2>"$folder/openbox.log" &
+openbox >"$folder/openbox.log" 2>&1 &
 window_manager=$!
 for _ in $(seq 100); do
   xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break

@@ -14,8 +14,9 @@
 
 namespace tarvo {
 
-/// The one object that samples the machine: owns the current snapshot, the two sparkline lists and the timers.
-/// Main thread only; slow readers run on background queues and patch single fields when they are done.
+/// The one object that samples the machine: owns the current snapshot, the two sparkline lists and the
+/// timers. Main thread only; slow readers run on background queues and patch single fields when they are
+/// done.
 class StatsModel : public std::enable_shared_from_this<StatsModel> {
 public:
     static constexpr std::size_t maxHistory = 60;

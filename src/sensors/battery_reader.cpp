@@ -1,0 +1,51 @@
+#include "sensors/battery_reader.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvo {
+namespace {
+
+/// Rounded half away from zero.
+std::int64_t percentOf(std::int64_t part, std::int64_t whole) {
+    return std::llround(static_cast<double>(part) / static_cast<double>(whole) * 100);
+}
+
+std::optional<std::int64_t> minutes(const PropertyDictionary& description, std::string_view key) {
+    const auto value = description.integer(key);
+    return value && *value >= 1 ? value : std::nullopt;
+}
+
+void addWear(BatteryInfo& info, const PropertyDictionary& entry) {
+    info.cycleCount = entry.integer("CycleCount");
+    const auto design = entry.integer("DesignCapacity");
+    const auto present = entry.integer("AppleRawMaxCapacity");
+    if (design && present && *design >= 1) {
+        info.healthPercent = std::min<std::int64_t>(percentOf(*present, *design), 100);
+    }
+}
+
+} // namespace
+
+std::optional<BatteryInfo> readBatteryInfo(PowerSources& powerSources, IORegistry& registry) {
+    const auto sources = powerSources.descriptions();
+    if (!sources || sources->empty() || !sources->front()) return std::nullopt;
+    const auto& description = *sources->front();
+    const auto current = description.integer("Current Capacity");
+    if (!current) return std::nullopt;
+    const auto full = description.integer("Max Capacity").value_or(100);
+
+    BatteryInfo info;
+    info.percentage = full < 1 ? *current : percentOf(*current, full);
+    info.isCharging = description.boolean("Is Charging").value_or(false);
+    info.isFullyCharged = description.boolean("Is Charged").value_or(false);
+    info.isPluggedIn = description.string("Power Source State") == "AC Power";
+    info.timeToEmptyMinutes = minutes(description, "Time to Empty");
+    info.timeToFullMinutes = minutes(description, "Time to Full Charge");
+
+    const auto entries = registry.services("AppleSmartBattery");
+    if (entries && !entries->empty()) addWear(info, entries->front());
+    return info;
+}
+
+} // namespace tarvo

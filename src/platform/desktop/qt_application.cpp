@@ -1,0 +1,32 @@
+#include "platform/desktop/qt_application.h"
+
+#include <QWidget>
+
+#include <clocale>
+
+namespace tarvo::desktop {
+
+QtApplication::QtApplication(int& argumentCount, char** arguments, const char* version)
+    : application_(argumentCount, arguments) {
+    // Qt has taken over the user's locale; numbers that go through the C library keep their point.
+    std::setlocale(LC_NUMERIC, "C");
+    QCoreApplication::setApplicationName(QStringLiteral("tarvo"));
+    QCoreApplication::setApplicationVersion(QLatin1String(version));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tarvo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tarvo"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+void QtApplication::activateIgnoringOtherApps() {
+    if (QWidget* window = QApplication::activeModalWidget()) window->activateWindow();
+}
+
+void QtApplication::terminate() {
+    QCoreApplication::quit();
+}
+
+int QtApplication::run() {
+    return QApplication::exec();
+}
+
+} // namespace tarvo::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/application.h"
+
+#include <QApplication>
+
+namespace tarvo::desktop {
+
+/// The QApplication behind the seam. Ordinary windows have taskbar entries by themselves and bars and
+/// popovers none, so that the activation policy is only remembered.
+class QtApplication : public Application {
+public:
+    /// `version` as it is shown to people, without a leading letter.
+    QtApplication(int& argumentCount, char** arguments, const char* version);
+
+    void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
+    void activateIgnoringOtherApps() override;
+    void terminate() override;
+
+    ActivationPolicy activationPolicy() const { return policy_; }
+    /// Runs the event loop until terminate(); the program's exit status.
+    int run();
+
+private:
+    QApplication application_;
+    ActivationPolicy policy_ = ActivationPolicy::regular;
+};
+
+} // namespace tarvo::desktop

@@ -1,0 +1,49 @@
+#include "platform/desktop/termination_signals.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tarvo::desktop {
+
+namespace {
+
+// A signal handler can reach nothing but what is static; it writes one byte and does no more.
+int wakeUpPipe = -1;
+
+void handle(int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = ::write(wakeUpPipe, &byte, 1);
+}
+
+void setHandler(void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        ::sigaction(number, &action, nullptr);
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals(std::function<void()> asked) {
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) return;
+    signals_ = FileDescriptor(ends[0]);
+    wakeUpPipe = ends[1];
+    notifier_ = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this, asked = std::move(asked)] {
+                         char byte = 0;
+                         if (::read(signals_.get(), &byte, 1) == 1) asked();
+                     });
+    setHandler(handle);
+}
+
+TerminationSignals::~TerminationSignals() {
+    setHandler(SIG_DFL);
+    if (wakeUpPipe >= 0) ::close(std::exchange(wakeUpPipe, -1));
+}
+
+} // namespace tarvo::desktop

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/posix/file_descriptor.h"
+
+#include <QSocketNotifier>
+
+#include <functional>
+#include <memory>
+
+namespace tarvo::desktop {
+
+/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread. One object at a time.
+class TerminationSignals {
+public:
+    explicit TerminationSignals(std::function<void()> asked);
+    ~TerminationSignals();
+    TerminationSignals(const TerminationSignals&) = delete;
+    TerminationSignals& operator=(const TerminationSignals&) = delete;
+
+private:
+    FileDescriptor signals_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+} // namespace tarvo::desktop

@@ -60,7 +60,7 @@ std::array<xcb_atom_t, atomCount> internAtoms(xcb_connection_t* display) {
     std::array<xcb_atom_t, atomCount> atoms{};
     for (std::size_t index = 0; index < atomCount; ++index) {
         const auto reply = owned(xcb_intern_atom_reply(display, cookies[index], nullptr));
-        atoms[index] = reply ? reply->atom : XCB_ATOM_NONE;
+        if (reply) atoms[index] = reply->atom;
     }
     return atoms;
 }

@@ -10,7 +10,7 @@ namespace tarvo {
 /// Busy share of the processor, percent 0 to 100.
 struct CPUUsage {
     double total = 0;
-    std::vector<double> perCore; ///< one a logical core, kernel order
+    std::vector<double> perCore{}; ///< one a logical core, kernel order
     bool operator==(const CPUUsage&) const = default;
 };
 
@@ -57,11 +57,11 @@ struct NetworkTotals {
 };
 
 struct SensorReadings {
-    std::optional<double> cpuTempCelsius;
-    std::optional<double> gpuTempCelsius;
+    std::optional<double> cpuTempCelsius{};
+    std::optional<double> gpuTempCelsius{};
     bool hasFan = false;
-    std::vector<double> fanRPMs; ///< fan order; a fan that could not be read is left out
-    std::optional<double> powerWatts;
+    std::vector<double> fanRPMs{}; ///< fan order; a fan that could not be read is left out
+    std::optional<double> powerWatts{};
     bool operator==(const SensorReadings&) const = default;
 };
 

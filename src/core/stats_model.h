@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/main_thread.h"
 #include "core/published.h"
 #include "core/settings.h"
 #include "core/stats_readers.h"
@@ -13,6 +14,8 @@
 #include <vector>
 
 namespace tarvo {
+
+struct HardwareReadings;
 
 /// The one object that samples the machine: owns the current snapshot, the two sparkline lists and the
 /// timers. Main thread only; slow readers run on background queues and patch single fields when they are
@@ -51,11 +54,54 @@ public:
 private:
     StatsModel(Settings& settings, Clock& clock, Dispatcher& dispatcher, StatsReaders readers,
                HistoryRecorder* history);
-    // Implementation members follow.
+
+    void refresh();
+    void sampleEveryTick(StatsSnapshot& working);
+    void sampleNetwork(StatsSnapshot& working);
+    void sampleSlow(StatsSnapshot& working);
+    void refreshDetail();
+    void appendToSparklines();
+
+    void refreshDiskAndIPSync();
+    void fetchPublicIPPeriodically();
+    void fetchPublicIP();
+    void refreshHardwareAsync();
+    void applyHardware(const HardwareReadings& readings);
+    void refreshExtrasAsync();
+    void recordHistorySample();
+    void recordHistorySampleAsync();
+
+    /// A background task that does `work` with the readers and hands its result to `apply` on the main
+    /// thread. Neither happens once the model is gone.
+    template <typename Work, typename Apply>
+    Task inBackground(Work work, Apply apply);
+
     Published<StatsSnapshot> snap_;
     Published<std::vector<double>> cpuHistory_;
     Published<std::vector<double>> memHistory_;
     bool detailVisible_ = false;
+
+    MainThread mainThread_;
+    Settings& settings_;
+    Clock& clock_;
+    Dispatcher& dispatcher_;
+    std::shared_ptr<const StatsReaders> readers_; ///< shared with the background work that is under way
+    HistoryRecorder* history_;
+    StatsSnapshot working_; ///< kept between ticks, so that copying into it finds its storage ready
+
+    std::unique_ptr<Timer> timer_;
+    std::unique_ptr<Timer> publicIPTimer_;
+    std::unique_ptr<SerialQueue> hardwareQueue_;
+    bool hardwareRefreshInFlight_ = false;
+    bool historySampleInFlight_ = false;
+    bool netProcsInFlight_ = false;
+    std::optional<DiskIOTotals> lastDiskIO_;
+    std::optional<NetworkTotals> lastNetIO_;
+    SteadyTime lastSampleTime_;
+    SteadyTime lastDetailSampleTime_;
+    SteadyTime lastProcessRefresh_ = distantPast;
+    SteadyTime lastNetProcsRefresh_ = distantPast;
+    SteadyTime lastSlowSampleTime_ = distantPast;
 };
 
 } // namespace tarvo

@@ -1,66 +1,83 @@
 #include "platform/utf8.h"
 
-#include <array>
 #include <cstddef>
+#include <optional>
 
 namespace tarvo {
+
 namespace {
 
-/// One row of RFC 3629's grammar: a range of first bytes, the range of the second, and how many follow the
-/// first.
-struct Form {
-    unsigned char firstFrom, firstTo;
-    unsigned char secondFrom, secondTo;
-    std::size_t following;
+struct CodePoint {
+    char32_t value;
+    std::size_t length;
 };
 
-constexpr std::array<Form, 9> forms{{
-    {0x00, 0x7F, 0x00, 0x00, 0},
-    {0xC2, 0xDF, 0x80, 0xBF, 1},
-    {0xE0, 0xE0, 0xA0, 0xBF, 2},
-    {0xE1, 0xEC, 0x80, 0xBF, 2},
-    {0xED, 0xED, 0x80, 0x9F, 2},
-    {0xEE, 0xEF, 0x80, 0xBF, 2},
-    {0xF0, 0xF0, 0x90, 0xBF, 3},
-    {0xF1, 0xF3, 0x80, 0xBF, 3},
-    {0xF4, 0xF4, 0x80, 0x8F, 3},
-}};
+struct Form {
+    std::size_t length;
+    char32_t leadBits;
+    char32_t smallest;
+};
 
-unsigned char byteAt(std::string_view text, std::size_t position) {
-    return static_cast<unsigned char>(text[position]);
+std::optional<Form> formOf(unsigned char lead) {
+    if (lead < 0x80) return Form{1, lead, 0};
+    if (lead >= 0xC2 && lead < 0xE0) return Form{2, lead & 0x1FU, 0x80};
+    if (lead >= 0xE0 && lead < 0xF0) return Form{3, lead & 0x0FU, 0x800};
+    if (lead >= 0xF0 && lead < 0xF5) return Form{4, lead & 0x07U, 0x10000};
+    return std::nullopt;
 }
 
-bool isWithin(unsigned char byte, unsigned char from, unsigned char to) {
-    return byte >= from && byte <= to;
-}
-
-bool fits(const Form& form, std::string_view text) {
-    if (!isWithin(byteAt(text, 0), form.firstFrom, form.firstTo) || text.size() <= form.following)
-        return false;
-    if (form.following > 0 && !isWithin(byteAt(text, 1), form.secondFrom, form.secondTo)) return false;
-    for (std::size_t i = 2; i <= form.following; ++i) {
-        if (!isWithin(byteAt(text, i), 0x80, 0xBF)) return false;
+std::optional<CodePoint> firstCodePoint(std::string_view bytes) {
+    const auto form = formOf(static_cast<unsigned char>(bytes.front()));
+    if (!form || bytes.size() < form->length) return std::nullopt;
+    char32_t value = form->leadBits;
+    for (const char next : bytes.substr(1, form->length - 1)) {
+        const auto byte = static_cast<unsigned char>(next);
+        if ((byte & 0xC0U) != 0x80U) return std::nullopt;
+        value = (value << 6U) | (byte & 0x3FU);
     }
-    return true;
+    const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (value < form->smallest || isSurrogate || value > 0x10FFFF) return std::nullopt;
+    return CodePoint{value, form->length};
 }
 
-/// Bytes of the character that the text begins with; 0 when it begins with none.
-std::size_t characterLength(std::string_view text) {
-    for (const auto& form : forms) {
-        if (fits(form, text)) return form.following + 1;
-    }
-    return 0;
+bool isWhiteSpace(char32_t point) {
+    return (point >= 0x09 && point <= 0x0D) || point == 0x20 || point == 0x85 || point == 0xA0 ||
+           point == 0x1680 || (point >= 0x2000 && point <= 0x200A) || point == 0x2028 || point == 0x2029 ||
+           point == 0x202F || point == 0x205F || point == 0x3000;
+}
+
+std::size_t lastCodePointStart(std::string_view text) {
+    std::size_t start = text.size() - 1;
+    while (start > 0 && (static_cast<unsigned char>(text[start]) & 0xC0U) == 0x80U)
+        --start;
+    return start;
+}
+
+bool beginsWithWhiteSpace(std::string_view text) {
+    const auto point = firstCodePoint(text);
+    return point && isWhiteSpace(point->value);
 }
 
 } // namespace
 
-bool isValidUTF8(std::string_view text) {
-    while (!text.empty()) {
-        const auto length = characterLength(text);
-        if (length == 0) return false;
-        text.remove_prefix(length);
+bool isUTF8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto point = firstCodePoint(bytes);
+        if (!point) return false;
+        bytes.remove_prefix(point->length);
     }
     return true;
+}
+
+std::string_view trimmedWhiteSpace(std::string_view text) {
+    while (!text.empty() && beginsWithWhiteSpace(text))
+        text.remove_prefix(firstCodePoint(text)->length);
+    while (!text.empty()) {
+        const auto last = lastCodePointStart(text);
+        if (!beginsWithWhiteSpace(text.substr(last))) break;
+        text = text.substr(0, last);
+    }
+    return text;
 }
 
 } // namespace tarvo

@@ -9,7 +9,7 @@ namespace {
 
 std::optional<std::string> text(BackupTool& tool, const std::string& command) {
     auto output = tool.output(command);
-    return output && isValidUTF8(*output) ? output : std::nullopt;
+    return output && isUTF8(*output) ? output : std::nullopt;
 }
 
 } // namespace

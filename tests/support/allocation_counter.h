@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace tarvo {
+
+/// How often this thread has asked for memory with new; link support/allocation_counter.cpp.
+std::size_t allocationCount();
+
+} // namespace tarvo

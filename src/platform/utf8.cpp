@@ -80,4 +80,20 @@ std::string_view trimmedWhiteSpace(std::string_view text) {
     return text;
 }
 
+std::string printableLine(std::string_view bytes) {
+    std::string line;
+    line.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const auto point = firstCodePoint(bytes);
+        const auto length = point ? point->length : 1;
+        if (point && point->value >= 0x20 && point->value != 0x7F) {
+            line.append(bytes.substr(0, length));
+        } else {
+            line.push_back('?');
+        }
+        bytes.remove_prefix(length);
+    }
+    return line;
+}
+
 } // namespace tarvo

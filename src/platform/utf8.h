@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tarvo {
@@ -9,5 +10,9 @@ bool isUTF8(std::string_view bytes);
 
 /// The text without Unicode white space and line ends at both ends. The text is well-formed UTF-8.
 std::string_view trimmedWhiteSpace(std::string_view text);
+
+/// The bytes as one line of well-formed UTF-8: each control character of ASCII and each byte that is not part of
+/// a well-formed sequence becomes "?".
+std::string printableLine(std::string_view bytes);
 
 } // namespace tarvo

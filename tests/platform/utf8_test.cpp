@@ -31,4 +31,11 @@ TEST(UTF8, TrimsWhiteSpaceOfAnyKindFromBothEnds) {
     EXPECT_EQ(trimmedWhiteSpace("\xC5\x99"), "\xC5\x99");
 }
 
+TEST(UTF8, ALineToPrintHoldsNoControlCharacters) {
+    EXPECT_EQ(printableLine("a\nb\tc\x7F"), "a?b?c?");
+    EXPECT_EQ(printableLine("\xC5\x99\xC5\xE2\x80\x94\xE2\x80"), "\xC5\x99?\xE2\x80\x94??");
+    EXPECT_EQ(printableLine(std::string_view("a\0b", 3)), "a?b");
+    EXPECT_EQ(printableLine(""), "");
+}
+
 } // namespace tarvo

@@ -4,24 +4,24 @@
 #include "core/settings.h"
 #include "core/stats_model.h"
 #include "menubar/detail_window_controller.h"
+#include "menubar/hover_preview.h"
+#include "menubar/main_popover.h"
+#include "menubar/status_items.h"
 #include "platform/application.h"
 #include "platform/dispatcher.h"
 #include "platform/popover.h"
 #include "platform/status_bar.h"
 
-#include <chrono>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
-#include <string>
 
 namespace tarvo {
 
 class LocalizationManager;
 
-/// What the delegate works with. References outlive it. A function may be left empty: the delegate then goes without
-/// what it would give.
+/// What the delegate works with. References outlive it. A function may be left empty: the delegate then goes
+/// without what it would give.
 struct AppServices {
     Application& application;
     StatusBar& statusBar;
@@ -35,7 +35,8 @@ struct AppServices {
     PopoverFactory makePopover;
     std::function<std::unique_ptr<PopoverContent>()> makePopoverContent;
     std::function<std::unique_ptr<PopoverContent>(MenuBarModule)> makePreviewContent;
-    /// Screen coordinates; absent where the desktop does not tell. Empty: no hover previews and no poll for them.
+    /// Screen coordinates; absent where the desktop does not tell. Empty: no hover previews and no poll for
+    /// them.
     std::function<std::optional<Point>()> pointerPosition;
 
     /// Called for each snapshot while notifications are enabled.
@@ -47,14 +48,10 @@ struct AppServices {
 };
 
 /// The root of the running system: owns the status items, the popovers and the detail window, and turns each
-/// snapshot into what the status bar shows. It sets every title, image, tint and tool tip at each snapshot; hosts
-/// compare and repaint only what changed. Main thread only; owned by a shared pointer, since timers and observers
-/// hold it weakly.
+/// snapshot into what the status bar shows. Main thread only; owned by a shared pointer, since the model and
+/// the hot key hold it weakly.
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
-    static constexpr std::chrono::milliseconds contentGracePeriod{20'000};
-    static constexpr std::chrono::milliseconds hoverPollPeriod{120};
-
     explicit AppDelegate(AppServices services);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
@@ -63,10 +60,6 @@ public:
     void applicationDidFinishLaunching();
     /// Writes what is not saved yet. Called once, before the program ends.
     void applicationWillTerminate();
-
-    /// Removes all status items and makes those that the settings and the current snapshot ask for.
-    void rebuildStatusItems();
-    void updateStatusBarAppearance(const StatsSnapshot& snapshot);
 
     /// Opens the popover at the anchor, or closes it. Without an anchor: at the combined item, else at the
     /// processor's, else nothing happens.
@@ -77,39 +70,23 @@ public:
     Menu contextMenu();
 
 private:
-    using ItemPointer = std::shared_ptr<StatusItem>;
-
-    ItemPointer makeStatusItem(std::optional<MenuBarModule> module);
-    void configureButton(StatusButton& button, std::optional<MenuBarModule> module);
-    bool shouldShow(MenuBarModule module, const StatsSnapshot& snapshot) const;
-    void updateCombinedItem(const StatsSnapshot& snapshot);
-    void updateModularItems(const StatsSnapshot& snapshot);
-
+    void installUpdateCallback();
+    void registerHotKey();
     void modelDidUpdate(const StatsSnapshot& snapshot);
     void menuBarStyleDidChange();
-    void statusItemClicked(const ItemPointer& item, std::optional<StatusClick> click);
-    void showContextMenu(StatusItem& item);
-
-    StatusButton* anchorOrDefault(StatusButton* anchor) const;
-    void popoverDidClose();
+    void startHoverPolling();
+    void statusItemClicked(StatusButton& button, std::optional<StatusClick> click);
+    void showContextMenu(StatusButton& button);
+    bool isPopoverShown() const { return popover_ && popover_->isShown(); }
+    void popoverWillShow();
     void updateDetailVisible();
 
-    void startHoverPolling();
-    void pollHover();
-    std::optional<MenuBarModule> moduleUnderPointer() const;
-    void closePreview();
-
     AppServices services_;
-    std::map<MenuBarModule, ItemPointer> statusItems_;
-    ItemPointer combinedStatusItem_;
-    std::unique_ptr<Popover> popover_;
-    std::unique_ptr<Popover> hoverPopover_;
-    std::optional<MenuBarModule> hoverModule_;
-    std::unique_ptr<Timer> hoverPollTimer_;
+    StatusItems items_;
     DetailWindowController detailWindow_;
-    int teardownGeneration_ = 0;
+    std::shared_ptr<MainPopover> popover_;       ///< made at launch
+    std::unique_ptr<HoverPreview> hoverPreview_; ///< made at launch
     Subscription styleSubscription_;
-    std::string text_; ///< kept between snapshots for its memory
 };
 
 } // namespace tarvo

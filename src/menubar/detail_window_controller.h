@@ -7,7 +7,8 @@
 
 namespace tarvo {
 
-/// Shows the one large detail window; while it is open the program has an entry in the taskbar. Main thread only.
+/// Shows the one large detail window; while it is open the program has an entry in the taskbar. Main thread
+/// only.
 class DetailWindowController {
 public:
     /// Without a factory nothing is ever shown. `application` outlives the controller.

@@ -90,7 +90,9 @@ class StatusButton {
 public:
     virtual ~StatusButton() = default;
     virtual void setFont(const TextFont& font) = 0;
+    /// Plain text in the button's font; takes the place of an attributed title.
     virtual void setTitle(const std::string& title) = 0;
+    /// Takes the place of the plain title.
     virtual void setAttributedTitle(const AttributedTitle& title) = 0;
     /// Shown left of the title.
     virtual void setImage(const StatusImage& image) = 0;
@@ -123,6 +125,8 @@ class StatusBar {
 public:
     virtual ~StatusBar() = default;
     virtual std::unique_ptr<StatusItem> makeItem() = 0;
+    /// False where no button ever knows its place on the screen, so that nobody need ask.
+    virtual bool tellsPlaces() const { return true; }
 };
 
 } // namespace tarvo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QFont>
+
+namespace tarvo::ui {
+
+/// Every kind of text that the interface shows; size and weight of each are in one table.
+enum class TextRole {
+    axis,
+    version,
+    ringDetail,
+    badge,
+    tileLabel,
+    caption,
+    placeholder,
+    ringTitle,
+    heroDetail,
+    button,
+    bannerText,
+    rowLabel,
+    rowValue,
+    heroTitle,
+    cardTitle,
+    ringValue,
+    bannerTitle,
+    productName,
+    sectionTitle,
+    heroValue
+};
+
+/// Size in points of the design, which are device-independent pixels on screen.
+double textSize(TextRole role);
+
+/// The desktop's font in the size and weight of the role.
+QFont textFont(TextRole role, const QFont& base);
+
+} // namespace tarvo::ui

@@ -1,0 +1,149 @@
+// Draws every element of the interface in both palettes and at both scales, for people to look at.
+// Usage: tarvo-gallery <folder>
+#include "support/painted_widget.h"
+#include "ui/elements/badge.h"
+#include "ui/elements/capacity_bar.h"
+#include "ui/elements/card_background.h"
+#include "ui/elements/hero_stat_card.h"
+#include "ui/elements/process_icon_view.h"
+#include "ui/elements/ring_gauge.h"
+#include "ui/elements/section_header.h"
+#include "ui/elements/sparkline.h"
+#include "ui/elements/stat_row.h"
+#include "ui/elements/temp_bar.h"
+#include "ui/elements/text_label.h"
+#include "ui/style/accent.h"
+#include "ui/style/metrics.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <array>
+#include <cmath>
+#include <memory>
+
+namespace tarvo::ui {
+namespace {
+
+std::vector<double> wave(int count, double middle, double swing) {
+    std::vector<double> values;
+    for (int index = 0; index < count; ++index) {
+        values.push_back(middle + swing * std::sin(index / 4.0) + swing / 2 * std::sin(index * 1.7));
+    }
+    return values;
+}
+
+QVBoxLayout* column(QWidget* parent) {
+    auto* layout = new QVBoxLayout(parent);
+    layout->setSpacing(metrics::regular);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+}
+
+QWidget* rings(QWidget* parent) {
+    auto* card = new CardBackground(parent);
+    auto* row = new QHBoxLayout(card);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(new RingGauge({"CPU", 0, "45 °C"}));
+    row->addWidget(new RingGauge({"Paměť", 60, "9.6 / 16 GB"}));
+    row->addWidget(new RingGauge({"GPU", 85, "71 °C"}));
+    row->addWidget(new RingGauge({"CPU", 150, "a detail that is too long"}));
+    return card;
+}
+
+QWidget* lines(QWidget* parent) {
+    auto* card = new CardBackground(parent);
+    auto* layout = column(card);
+    layout->addWidget(new Sparkline({wave(60, 45, 30), 60, colors::blue}));
+    layout->addWidget(new Sparkline({wave(20, 62, 3), 60, colors::purple}));
+    layout->addWidget(new CapacityBar({0, colors::indigo}));
+    layout->addWidget(new CapacityBar({0.64, colors::indigo}));
+    for (const double celsius : {30.0, 45.0, 60.0, 75.0, 90.0})
+        layout->addWidget(new TempBar({celsius, 20, 100}));
+    return card;
+}
+
+QWidget* rows(QWidget* parent) {
+    auto* card = new CardBackground(parent);
+    auto* layout = column(card);
+    layout->setSpacing(0);
+    layout->addWidget(
+        new StatRow({"arrow.down.circle.fill", colors::blue, "Stahování", "11.1 MB/s", colors::primary}));
+    layout->addWidget(
+        new StatRow({"arrow.up.circle.fill", colors::green, "Odesílání", "88.8 MB/s", colors::primary}));
+    layout->addWidget(
+        new StatRow({"thermometer.medium", colors::orange, "CPU Temperature", "71 °C", colors::orange}));
+    layout->addWidget(new StatRow({"globe", colors::teal, "A label far too long for the room that is here",
+                                   "5120.0 GB/s", colors::primary}));
+    auto* badges = new QHBoxLayout;
+    badges->addWidget(new Badge({"charging", colors::green}));
+    badges->addWidget(new Badge({"pasivní", colors::gray}));
+    badges->addWidget(new Badge({"ESTABLISHED", colors::blue}));
+    badges->addStretch();
+    layout->addLayout(badges);
+    return card;
+}
+
+QWidget* heroes(QWidget* parent) {
+    auto* box = new QWidget(parent);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::medium);
+    const auto accent = gradientColors(AccentTheme::blue);
+    row->addWidget(new HeroStatCard(
+        {"cpu.fill", "CPU", "42%", "8 cores · 71 °C", {accent[0], accent[1]}, wave(60, 50, 30)}));
+    row->addWidget(new HeroStatCard({"memorychip.fill",
+                                     "Paměť",
+                                     "9.6 / 16 GB",
+                                     "60%",
+                                     {colors::green, colors::green.withOpacity(0.6)},
+                                     {}}));
+    return box;
+}
+
+std::unique_ptr<QWidget> sheet(AppIconCache& icons) {
+    auto page = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(page.get());
+    layout->setSpacing(metrics::medium);
+    layout->setContentsMargins(metrics::large, metrics::large, metrics::large, metrics::large);
+    layout->addWidget(new SectionHeader({"cpu.fill", colors::blue, "Přehled / Overview"}));
+    layout->addWidget(rings(page.get()));
+    layout->addWidget(heroes(page.get()));
+    layout->addWidget(lines(page.get()));
+    layout->addWidget(rows(page.get()));
+    layout->addWidget(new ProcessIconView(icons));
+    return page;
+}
+
+struct Look {
+    const char* name;
+    QPalette palette;
+};
+
+void drawSheets(const QDir& folder) {
+    AppIconCache icons({});
+    for (const Look& look : {Look{"light", lightPalette()}, Look{"dark", darkPalette()}}) {
+        for (const int scale : {1, 2}) {
+            const auto page = sheet(icons);
+            page->setPalette(look.palette);
+            const QSize size(420, page->sizeHint().height());
+            const QImage image = painted(*page, size, scale, look.palette.color(QPalette::Window));
+            const QString name =
+                QStringLiteral("elements-%1-%2.png").arg(QLatin1String(look.name)).arg(scale * 100);
+            image.save(folder.filePath(name));
+        }
+    }
+}
+
+} // namespace
+} // namespace tarvo::ui
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc != 2) return 2;
+    tarvo::ui::drawSheets(QDir(QString::fromLocal8Bit(argv[1])));
+    return 0;
+}

@@ -18,6 +18,18 @@ constexpr double padding = 16;
 constexpr double symbolSize = 15;
 constexpr double historyHeight = 30;
 constexpr double historyLine = 1.8;
+constexpr double smallestValue = 18;
+
+// The value in its own size, or as much smaller as it needs to fit.
+TabularText fittedText(const QFont& font, const QString& text, double room) {
+    const double width = TabularText(font).width(text);
+    if (width <= room) return TabularText(font);
+    QFont smaller = font;
+    const double shrunk = font.pointSizeF() * room / width * 0.98;
+    const double least = font.pointSizeF() * smallestValue / textSize(TextRole::heroValue);
+    smaller.setPointSizeF(std::max(shrunk, least));
+    return TabularText(smaller);
+}
 
 } // namespace
 
@@ -86,9 +98,12 @@ void HeroStatCard::paintTexts(QPainter& painter) const {
     title.draw(painter, titleLine, Qt::AlignLeft,
                title.elided(QString::fromStdString(fields().title), titleLine.width()));
 
-    const TabularText value(roleFont(TextRole::heroValue));
-    const QRectF valueLine(padding, symbol.bottom() + metrics::small, room, value.metrics().height());
-    value.draw(painter, valueLine, Qt::AlignLeft, value.elided(QString::fromStdString(fields().value), room));
+    const QFont valueFont = roleFont(TextRole::heroValue);
+    const QString reading = QString::fromStdString(fields().value);
+    const TabularText value = fittedText(valueFont, reading, room);
+    const QRectF valueLine(padding, symbol.bottom() + metrics::small, room,
+                           QFontMetricsF(valueFont).height());
+    value.draw(painter, valueLine, Qt::AlignLeft, value.elided(reading, room));
 
     painter.setPen(shades.color(colors::white.withOpacity(0.7)));
     const TabularText detail(roleFont(TextRole::heroDetail));

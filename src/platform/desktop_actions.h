@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/system_family.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace tarvo {
+
+enum class QuickAction {
+    emptyTrash,
+    restartFileManager,
+    restartDock,
+    sleepDisplay,
+    toggleDarkMode,
+    newFileManagerWindow,
+};
+
+/// What a desktop can be asked to do by one click. Main thread only; nothing here waits.
+class DesktopActions {
+public:
+    /// The failure's own words, absent on success. Runs once, on the main thread.
+    using Done = std::function<void(std::optional<std::string> failure)>;
+
+    virtual ~DesktopActions() = default;
+    virtual SystemFamily family() const = 0;
+    /// False for an action that this desktop has no means for.
+    virtual bool canDo(QuickAction action) const = 0;
+    virtual void perform(QuickAction action, Done done) = 0;
+    /// Whether the system has a page of privacy settings that a failed action may be due to.
+    virtual bool hasAutomationSettings() const = 0;
+    virtual void openAutomationSettings() = 0;
+};
+
+} // namespace tarvo

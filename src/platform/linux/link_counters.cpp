@@ -1,0 +1,93 @@
+#include "platform/linux/link_counters.h"
+
+#include <net/if.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace tarvo::linux_platform {
+
+namespace {
+
+std::optional<unsigned> parseFlags(std::optional<std::string_view> text) {
+    if (!text) return std::nullopt;
+    return parseHexadecimal<unsigned>(text->substr(0, text->find('\n')));
+}
+
+} // namespace
+
+LinkCounters::LinkCounters(const Root& root) : root_(root), dev_(root.path("/proc/net/dev")) {}
+
+bool LinkCounters::read(std::vector<LinkEntry>& entries) {
+    const auto text = dev_.read();
+    if (!text) return false;
+    parseNetDev(*text, counters_);
+    if (!namesAreKnown()) findRoles();
+    const bool hardwareIsUp = readFlags();
+
+    entries.resize(counters_.size());
+    for (std::size_t index = 0; index < counters_.size(); ++index) {
+        const auto& interface = interfaces_[index];
+        auto& entry = entries[index];
+        entry = {.hasAddress = true,
+                 .isUp = (interface.flags & IFF_UP) != 0,
+                 .isLoopback = (interface.flags & IFF_LOOPBACK) != 0,
+                 .statistics = std::nullopt};
+        if (!counts(interface, hardwareIsUp)) continue;
+        entry.statistics = LinkStatistics{counters_[index].receivedBytes, counters_[index].sentBytes};
+    }
+    return true;
+}
+
+bool LinkCounters::namesAreKnown() const {
+    return std::equal(counters_.begin(), counters_.end(), interfaces_.begin(), interfaces_.end(),
+                      [](const InterfaceCounters& counters, const Interface& known) {
+                          return counters.name == known.name;
+                      });
+}
+
+void LinkCounters::findRoles() {
+    interfaces_.clear();
+    hasHardware_ = false;
+    for (const auto& counters : counters_) {
+        std::string name(counters.name);
+        const auto facts = readInterfaceFacts(root_, name);
+        const auto role = interfaceRole(facts);
+        hasHardware_ = hasHardware_ || role == InterfaceRole::hardware;
+        auto flagsFile = KeptFile(root_.path("/sys/class/net/" + name + "/flags"));
+        interfaces_.push_back({std::move(name), role, facts.flags, std::move(flagsFile)});
+    }
+}
+
+// Whether any interface that counts by itself is up. An interface whose flags cannot be read has gone,
+// perhaps to come back as another one of the same name: it gets a name that no interface has, and is looked
+// at again.
+bool LinkCounters::readFlags() {
+    bool hardwareIsUp = false;
+    for (auto& interface : interfaces_) {
+        const bool isStandIn = interface.role == InterfaceRole::standIn;
+        if (interface.role == InterfaceRole::none || (isStandIn && hasHardware_)) continue;
+        const auto flags = parseFlags(interface.flagsFile.read());
+        interface.flags = flags.value_or(0);
+        if (!flags) interface.name.clear();
+        const bool isUp = (interface.flags & IFF_UP) != 0;
+        hardwareIsUp = hardwareIsUp || (isUp && interface.role != InterfaceRole::dialUp);
+    }
+    return hardwareIsUp;
+}
+
+bool LinkCounters::counts(const Interface& interface, bool hardwareIsUp) const {
+    switch (interface.role) {
+    case InterfaceRole::hardware:
+        return true;
+    case InterfaceRole::dialUp:
+        return !hardwareIsUp;
+    case InterfaceRole::standIn:
+        return !hasHardware_;
+    case InterfaceRole::none:
+        break;
+    }
+    return false;
+}
+
+} // namespace tarvo::linux_platform

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/stats_readers.h"
+#include "platform/clock.h"
+#include "platform/dispatcher.h"
+#include "platform/https_client.h"
+
+#include <memory>
+#include <string>
+
+namespace tarvo {
+
+struct MachineOptions {
+    std::string root;             ///< folder of a recorded machine; empty: the running one
+    HTTPSClient* https = nullptr; ///< without one the public address stays unknown; outlives the machine
+};
+
+/// The sources of one machine and the readers wired to them: what both programs have in common. Made and
+/// destroyed on the main thread; the readers keep what they use alive.
+class Machine {
+public:
+    /// Clock and dispatcher outlive the machine and its readers.
+    Machine(MachineOptions options, Clock& clock, Dispatcher& dispatcher);
+    ~Machine();
+
+    /// One function for each reading that this platform can give.
+    StatsReaders readers();
+
+private:
+    struct Parts;
+    std::shared_ptr<Parts> parts_;
+};
+
+} // namespace tarvo

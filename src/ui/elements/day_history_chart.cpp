@@ -26,10 +26,8 @@ struct Series {
     Color color;
 };
 
-std::array<Series, 2> legend() {
-    return {{{LKey{.cs = "CPU", .en = "CPU"}, colors::blue},
-             {LKey{.cs = "Paměť", .en = "Memory"}, colors::purple}}};
-}
+constexpr std::array<Series, 2> legend{
+    {{{.cs = "CPU", .en = "CPU"}, colors::blue}, {{.cs = "Paměť", .en = "Memory"}, colors::purple}}};
 
 AxisScale scaleOf(HistoryRange range) {
     switch (range) {
@@ -60,7 +58,7 @@ QPainterPath curvePath(const std::vector<DrawPoint>& points) {
 DayHistoryChart::DayHistoryChart(LocalizationManager& loc, QWidget* parent)
     : Element(parent), loc_(loc), offset_(systemUTCOffset()), locale_(QLocale::system()) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    languageSubscription_ = loc_.observeWillChange([this] { update(); });
+    languageSubscription_ = loc_.publishedLanguage().observeWillChange([this] { update(); });
 }
 
 void DayHistoryChart::setCalendar(UTCOffset offset, const QLocale& locale) {
@@ -80,7 +78,7 @@ QString DayHistoryChart::accessibleText() const {
             {.cs = "Zatím málo dat — vrať se za chvíli", .en = "Not enough data yet — check back soon"}));
     }
     QStringList words;
-    for (const Series& series : legend())
+    for (const Series& series : legend)
         words << QString::fromStdString(loc_.t(series.name));
     words << QString::fromStdString(timeLabel());
     return words.join(QStringLiteral(", "));
@@ -144,7 +142,7 @@ void DayHistoryChart::paintLegend(QPainter& painter) const {
     const Theme shades = theme();
     const TabularText text(roleFont(TextRole::placeholder));
     QRectF line(0, 0, width(), text.metrics().height());
-    for (const Series& series : legend()) {
+    for (const Series& series : legend) {
         const QString name = QString::fromStdString(loc_.t(series.name));
         painter.setPen(Qt::NoPen);
         painter.setBrush(shades.color(series.color));

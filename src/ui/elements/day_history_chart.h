@@ -6,6 +6,7 @@
 #include "ui/elements/element.h"
 #include "ui/geometry/time_axis.h"
 
+#include <QLocale>
 #include <QPainterPath>
 
 #include <optional>

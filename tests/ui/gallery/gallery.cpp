@@ -1,9 +1,11 @@
 // Draws every element of the interface in both palettes and at both scales, for people to look at.
 // Usage: tarvo-gallery <folder>
+#include "support/memory_preference_store.h"
 #include "support/painted_widget.h"
 #include "ui/elements/badge.h"
 #include "ui/elements/capacity_bar.h"
 #include "ui/elements/card_background.h"
+#include "ui/elements/day_history_chart.h"
 #include "ui/elements/hero_stat_card.h"
 #include "ui/elements/process_icon_view.h"
 #include "ui/elements/ring_gauge.h"
@@ -23,6 +25,7 @@
 #include <array>
 #include <cmath>
 #include <memory>
+#include <numbers>
 
 namespace tarvo::ui {
 namespace {
@@ -78,11 +81,36 @@ QWidget* rows(QWidget* parent) {
     layout->addWidget(new StatRow({"globe", colors::teal, "A label far too long for the room that is here",
                                    "5120.0 GB/s", colors::primary}));
     auto* badges = new QHBoxLayout;
+    badges->setSpacing(metrics::regular);
     badges->addWidget(new Badge({"charging", colors::green}));
     badges->addWidget(new Badge({"pasivní", colors::gray}));
     badges->addWidget(new Badge({"ESTABLISHED", colors::blue}));
     badges->addStretch();
     layout->addLayout(badges);
+    return card;
+}
+
+std::vector<HistorySample> samples(HistoryRange range) {
+    const int count = static_cast<int>(popoverHours(range)) * 60;
+    const WallTime last = WallTime{} + std::chrono::hours(494'000);
+    std::vector<HistorySample> made;
+    for (int minute = 0; minute < count; ++minute) {
+        const double day = std::sin(minute * 2 * std::numbers::pi / 1440);
+        const double cpu = minute % 997 == 0 ? 99 : 25 + 15 * day + 8 * std::sin(minute / 7.0);
+        made.push_back(
+            {last - std::chrono::minutes(count - minute), cpu, 58 + 9 * std::sin(minute / 700.0), {}});
+    }
+    return made;
+}
+
+QWidget* charts(LocalizationManager& loc, QWidget* parent) {
+    auto* card = new CardBackground(parent);
+    auto* layout = column(card);
+    for (const HistoryRange range : {HistoryRange::day, HistoryRange::twoWeeks, HistoryRange::live}) {
+        auto* chart = new DayHistoryChart(loc);
+        chart->set({samples(range), range});
+        layout->addWidget(chart);
+    }
     return card;
 }
 
@@ -103,7 +131,7 @@ QWidget* heroes(QWidget* parent) {
     return box;
 }
 
-std::unique_ptr<QWidget> sheet(AppIconCache& icons) {
+std::unique_ptr<QWidget> sheet(AppIconCache& icons, LocalizationManager& loc) {
     auto page = std::make_unique<QWidget>();
     auto* layout = new QVBoxLayout(page.get());
     layout->setSpacing(metrics::medium);
@@ -113,6 +141,7 @@ std::unique_ptr<QWidget> sheet(AppIconCache& icons) {
     layout->addWidget(heroes(page.get()));
     layout->addWidget(lines(page.get()));
     layout->addWidget(rows(page.get()));
+    layout->addWidget(charts(loc, page.get()));
     layout->addWidget(new ProcessIconView(icons));
     return page;
 }
@@ -124,9 +153,11 @@ struct Look {
 
 void drawSheets(const QDir& folder) {
     AppIconCache icons({});
+    MemoryPreferenceStore store;
+    LocalizationManager loc(store, "cs");
     for (const Look& look : {Look{"light", lightPalette()}, Look{"dark", darkPalette()}}) {
         for (const int scale : {1, 2}) {
-            const auto page = sheet(icons);
+            const auto page = sheet(icons, loc);
             page->setPalette(look.palette);
             const QSize size(420, page->sizeHint().height());
             const QImage image = painted(*page, size, scale, look.palette.color(QPalette::Window));

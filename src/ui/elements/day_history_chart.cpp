@@ -17,6 +17,7 @@ namespace tarvo::ui {
 namespace {
 
 constexpr double lineWidth = 1.5;
+constexpr double denseLineWidth = 1; // where many samples share a column
 constexpr double legendDot = 6;
 constexpr double gridOpacity = 0.1;
 constexpr double roomForPoint = 3; // below this distance a curve cannot be told from straight pieces
@@ -192,8 +193,10 @@ void DayHistoryChart::paintLines(QPainter& painter, const QRectF& plot, const Li
     painter.save();
     painter.translate(plot.topLeft());
     painter.setBrush(Qt::NoBrush);
+    const bool isDense = static_cast<double>(fields().samples.size()) > 4 * plot.width();
+    const double pen = isDense ? denseLineWidth : lineWidth;
     const auto stroke = [&](const QPainterPath& path, Color color) {
-        painter.setPen(QPen(shades.color(color), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(shades.color(color), pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(path);
     };
     stroke(lines.mem, colors::purple);

@@ -1,20 +1,48 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarvo {
 
-/// Runs the system's tools. Any thread but the main one.
+/// A tool to run: no shell is involved, and nothing is looked up in PATH.
+struct ChildProcessRequest {
+    std::string executable; ///< absolute path
+    std::vector<std::string> arguments{};
+    /// Added to the environment of this process, in place of variables of the same name.
+    std::vector<std::pair<std::string, std::string>> environment{};
+    std::optional<std::chrono::milliseconds> timeLimit{}; ///< absent: as long as it takes
+    bool keepErrorTail = false;                           ///< else standard error is thrown away
+};
+
+struct ChildProcessResult {
+    std::string output{};            ///< standard output; what comes after the first 16 MiB is left out
+    std::string errorTail{};         ///< the last 4 KiB of standard error
+    std::optional<int> exitStatus{}; ///< absent when a signal or the time limit ended it
+    bool exceededTimeLimit = false;  ///< it was ended, with what it had started; the output is incomplete
+};
+
+/// Runs tools and waits for them. Callable from any thread but meant for background ones.
 class ChildProcesses {
 public:
+    static constexpr std::size_t maximumOutput = 16 << 20;
+    static constexpr std::size_t errorTailLength = 4096;
+
     virtual ~ChildProcesses() = default;
-    /// What the executable, a fixed path, writes to its standard output when run with these arguments, read
-    /// to its end before the exit is awaited. Its exit status and what it writes elsewhere do not matter.
-    /// Absent when it cannot be started.
-    virtual std::optional<std::string> output(const std::string& executable,
-                                              const std::vector<std::string>& arguments) = 0;
+    /// Reads standard output to its end, then awaits the exit. Standard input is empty. Absent when the tool
+    /// could not be started.
+    virtual std::optional<ChildProcessResult> run(const ChildProcessRequest& request) = 0;
+
+    /// What the executable writes to its standard output; nothing else of it matters.
+    std::optional<std::string> output(const std::string& executable,
+                                      const std::vector<std::string>& arguments) {
+        auto result = run({.executable = executable, .arguments = arguments});
+        return result ? std::optional(std::move(result->output)) : std::nullopt;
+    }
 };
 
 } // namespace tarvo

@@ -16,10 +16,14 @@ constexpr std::optional<HistoryRange> historyRange(int rawValue) {
 /// Hours that the detail window's overview asks of the store.
 constexpr double overviewHours(HistoryRange range) {
     switch (range) {
-    case HistoryRange::live: return 1;
-    case HistoryRange::day: return 24;
-    case HistoryRange::week: return 168;
-    case HistoryRange::twoWeeks: return 336;
+    case HistoryRange::live:
+        return 1;
+    case HistoryRange::day:
+        return 24;
+    case HistoryRange::week:
+        return 168;
+    case HistoryRange::twoWeeks:
+        return 336;
     }
     return 0;
 }

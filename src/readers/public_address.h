@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/build_options.h"
 #include "platform/https_client.h"
 
 #include <functional>
@@ -10,7 +11,7 @@
 namespace tarvo {
 
 /// Answers with the caller's public IPv4 address as plain text.
-inline constexpr std::string_view publicAddressService = "https://api.ipify.org";
+inline constexpr std::string_view publicAddressService = build_options::publicAddressService;
 
 /// The address in a service's reply: its text without white space at both ends, which may leave nothing.
 /// Absent when there is no reply, it is empty or it is not UTF-8.

@@ -8,7 +8,7 @@
 namespace tarvo {
 namespace {
 
-void advance(std::span<iovec>& pieces, std::size_t written) {
+void skip(std::span<iovec>& pieces, std::size_t written) {
     while (!pieces.empty() && written >= pieces.front().iov_len) {
         written -= pieces.front().iov_len;
         pieces = pieces.subspan(1);
@@ -21,12 +21,12 @@ void advance(std::span<iovec>& pieces, std::size_t written) {
 } // namespace
 
 bool writeAll(int descriptor, std::span<iovec> pieces) {
-    advance(pieces, 0); // skips what is empty
+    skip(pieces, 0); // those that are empty
     while (!pieces.empty()) {
         const ssize_t written = ::writev(descriptor, pieces.data(), static_cast<int>(pieces.size()));
         if (written < 0 && errno == EINTR) continue;
         if (written <= 0) return false;
-        advance(pieces, static_cast<std::size_t>(written));
+        skip(pieces, static_cast<std::size_t>(written));
     }
     return true;
 }

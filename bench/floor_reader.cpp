@@ -71,8 +71,8 @@ const char* FloorReader::read(int descriptor) {
 
 std::uint64_t FloorReader::cores() {
     std::uint64_t sum = 0;
-    for (const char* at = nextLine(read(stat_), end_); at + 3 < end_ && begins(at, "cpu");
-         at = nextLine(at, end_)) {
+    const char* text = read(stat_);
+    for (const char* at = nextLine(text, end_); at + 3 < end_ && begins(at, "cpu"); at = nextLine(at, end_)) {
         const char* field = at + 3;
         sum += number(field);
         for (int column = 0; column < 8; ++column)
@@ -109,8 +109,8 @@ std::uint64_t FloorReader::load() {
 
 std::uint64_t FloorReader::network() {
     std::uint64_t sum = 0;
-    const char* at = nextLine(nextLine(read(netDev_), end_), end_);
-    for (; at < end_; at = nextLine(at, end_)) {
+    const char* text = read(netDev_);
+    for (const char* at = nextLine(nextLine(text, end_), end_); at < end_; at = nextLine(at, end_)) {
         const void* colon = std::memchr(at, ':', static_cast<std::size_t>(end_ - at));
         if (!colon) break;
         const char* field = static_cast<const char*>(colon) + 1;

@@ -15,6 +15,8 @@ namespace tarvo {
 /// Queues that run when told and timers that fire when virtual time passes them, all on the calling thread.
 class ManualDispatcher : public Dispatcher {
 public:
+    using Tasks = std::deque<Task>;
+
     explicit ManualDispatcher(ManualClock& clock) : clock_(clock) {}
 
     void async(Task task) override { main_.push_back(std::move(task)); }
@@ -36,6 +38,8 @@ public:
     bool runMain() { return drain(main_); }
     /// Runs the background tasks that are queued now or added by them.
     bool runBackground() { return drain(*background_); }
+    /// Takes the queued background tasks away: the caller runs them late or never.
+    Tasks takeBackground() { return std::exchange(*background_, {}); }
     /// Runs both until nothing is left.
     void runAll() {
         while (runMain() || runBackground()) {
@@ -62,8 +66,6 @@ public:
     std::vector<std::string> serialLabels;
 
 private:
-    using Tasks = std::deque<Task>;
-
     struct Queue : SerialQueue {
         explicit Queue(std::shared_ptr<Tasks> held) : tasks(std::move(held)) {}
         void async(Task task) override { tasks->push_back(std::move(task)); }

@@ -15,9 +15,9 @@ enum class OutputFormat { text, json, waybar };
 struct Options {
     bool once = false;
     bool detail = false;
-    std::optional<Seconds> interval; ///< absent: the user's preference
+    std::optional<Seconds> interval = std::nullopt; ///< absent: the user's preference
     OutputFormat format = OutputFormat::text;
-    std::string root; ///< empty: this machine
+    std::string root = {}; ///< empty: this machine
     bool operator==(const Options&) const = default;
 };
 

@@ -83,39 +83,8 @@ void visitFields(const StatsSnapshot& record, Visit&& visit) {
     visit("wifiSSID", record.wifiSSID);
 }
 
-template <typename Record>
-void writeRecord(JSONWriter& json, const Record& record);
-
-template <std::integral Number>
-void write(JSONWriter& json, Number number) {
-    if constexpr (std::same_as<Number, bool>) {
-        json.value(number);
-    } else if constexpr (std::unsigned_integral<Number>) {
-        json.value(std::uint64_t{number});
-    } else {
-        json.value(std::int64_t{number});
-    }
-}
-void write(JSONWriter& json, double number) {
-    json.value(number);
-}
-void write(JSONWriter& json, const std::string& text) {
-    json.value(std::string_view(text));
-}
-void write(JSONWriter& json, WallTime date) {
-    json.value(date);
-}
-template <typename Record>
-void write(JSONWriter& json, const Record& record) {
-    writeRecord(json, record);
-}
-template <typename Element>
-void write(JSONWriter& json, const std::vector<Element>& list) {
-    json.beginArray();
-    for (const auto& element : list)
-        write(json, element);
-    json.endArray();
-}
+template <typename Value>
+void write(JSONWriter& json, const Value& value);
 
 struct MemberWriter {
     JSONWriter& json;
@@ -140,18 +109,36 @@ private:
     }
 };
 
-template <typename Record>
-void writeRecord(JSONWriter& json, const Record& record) {
-    json.beginObject();
-    visitFields(record, MemberWriter{json});
-    json.endObject();
+template <typename Value>
+inline constexpr bool isList = false;
+template <typename Element>
+inline constexpr bool isList<std::vector<Element>> = true;
+
+template <typename Value>
+void write(JSONWriter& json, const Value& value) {
+    if constexpr (isList<Value>) {
+        json.beginArray();
+        for (const auto& element : value)
+            write(json, element);
+        json.endArray();
+    } else if constexpr (std::same_as<Value, std::string>) {
+        json.value(std::string_view(value));
+    } else if constexpr (std::same_as<Value, std::int32_t>) {
+        json.value(std::int64_t{value});
+    } else if constexpr (requires { json.value(value); }) {
+        json.value(value);
+    } else {
+        json.beginObject();
+        visitFields(value, MemberWriter{json});
+        json.endObject();
+    }
 }
 
 } // namespace
 
 void appendSnapshotJSON(std::string& out, const StatsSnapshot& snapshot) {
     JSONWriter json(out);
-    writeRecord(json, snapshot);
+    write(json, snapshot);
 }
 
 } // namespace tarvo::status

@@ -8,7 +8,7 @@
 namespace tarvo::status {
 namespace {
 
-std::string quoted(std::string_view text) {
+std::string jsonString(std::string_view text) {
     std::string out;
     appendJSONString(out, text);
     return out;
@@ -67,32 +67,32 @@ TEST(JSONWriter, WritesNullForWhatIsNotANumber) {
 }
 
 TEST(JSONWriter, EscapesWhatJSONAsksFor) {
-    EXPECT_EQ(quoted("a\"b\\c\nd\te\x01\x1F\x7F/"), "\"a\\\"b\\\\c\\nd\\te\\u0001\\u001f\x7F/\"");
-    EXPECT_EQ(quoted(std::string_view("\0", 1)), "\"\\u0000\"");
-    EXPECT_EQ(quoted(""), "\"\"");
+    EXPECT_EQ(jsonString("a\"b\\c\nd\te\x01\x1F\x7F/"), "\"a\\\"b\\\\c\\nd\\te\\u0001\\u001f\x7F/\"");
+    EXPECT_EQ(jsonString(std::string_view("\0", 1)), "\"\\u0000\"");
+    EXPECT_EQ(jsonString(""), "\"\"");
 }
 
 TEST(JSONWriter, KeepsWellFormedText) {
     for (const auto* text : {"Paměť", "°C · ↓", "🔋", "\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"}) {
-        EXPECT_EQ(quoted(text), std::string("\"") + text + "\"");
+        EXPECT_EQ(jsonString(text), std::string("\"") + text + "\"");
     }
 }
 
 TEST(JSONWriter, ReplacesMalformedBytes) {
-    EXPECT_EQ(quoted("a\xFFz"), "\"a\uFFFDz\"");
-    EXPECT_EQ(quoted("\x80"), "\"\uFFFD\"");
-    EXPECT_EQ(quoted("\xC0\xAF"), "\"\uFFFD\uFFFD\"");                     // overlong
-    EXPECT_EQ(quoted("\xED\xA0\x80"), "\"\uFFFD\uFFFD\uFFFD\"");           // surrogate
-    EXPECT_EQ(quoted("\xF4\x90\x80\x80"), "\"\uFFFD\uFFFD\uFFFD\uFFFD\""); // above the last code point
-    EXPECT_EQ(quoted("\xE2\x82"), "\"\uFFFD\uFFFD\"");                     // cut short
-    EXPECT_EQ(quoted("\xF0\x9F\x94\""), "\"\uFFFD\uFFFD\uFFFD\\\"\"");
+    EXPECT_EQ(jsonString("a\xFFz"), "\"a\uFFFDz\"");
+    EXPECT_EQ(jsonString("\x80"), "\"\uFFFD\"");
+    EXPECT_EQ(jsonString("\xC0\xAF"), "\"\uFFFD\uFFFD\"");                     // overlong
+    EXPECT_EQ(jsonString("\xED\xA0\x80"), "\"\uFFFD\uFFFD\uFFFD\"");           // surrogate
+    EXPECT_EQ(jsonString("\xF4\x90\x80\x80"), "\"\uFFFD\uFFFD\uFFFD\uFFFD\""); // above the last code point
+    EXPECT_EQ(jsonString("\xE2\x82"), "\"\uFFFD\uFFFD\"");                     // cut short
+    EXPECT_EQ(jsonString("\xF0\x9F\x94\""), "\"\uFFFD\uFFFD\uFFFD\\\"\"");
 }
 
 TEST(JSONWriter, NeverWritesTextThatAParserRefuses) {
     for (unsigned first = 0; first < 256; ++first) {
         for (unsigned second = 0; second < 256; ++second) {
             const std::string text{static_cast<char>(first), static_cast<char>(second), '\xBF', 'x'};
-            EXPECT_TRUE(nlohmann::json::accept(quoted(text))) << first << ' ' << second;
+            EXPECT_TRUE(nlohmann::json::accept(jsonString(text))) << first << ' ' << second;
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "json_writer.h"
 
+#include "platform/iso8601.h"
+
 #include <fmt/format.h>
 
 #include <cmath>
@@ -73,16 +75,6 @@ void appendJSONString(std::string& out, std::string_view text) {
     out += '"';
 }
 
-void appendISODate(std::string& out, WallTime date) {
-    const auto day = std::chrono::floor<std::chrono::days>(date);
-    const std::chrono::year_month_day calendar(day);
-    const std::chrono::hh_mm_ss clock(std::chrono::floor<std::chrono::seconds>(date - day));
-    fmt::format_to(std::back_inserter(out), "{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z",
-                   static_cast<int>(calendar.year()), static_cast<unsigned>(calendar.month()),
-                   static_cast<unsigned>(calendar.day()), clock.hours().count(), clock.minutes().count(),
-                   clock.seconds().count());
-}
-
 void JSONWriter::open(char bracket) {
     separate();
     out_ += bracket;
@@ -138,7 +130,7 @@ void JSONWriter::value(std::string_view text) {
 void JSONWriter::value(WallTime date) {
     separate();
     out_ += '"';
-    appendISODate(out_, date);
+    appendISO8601(out_, date);
     out_ += '"';
 }
 

@@ -41,7 +41,5 @@ private:
 
 /// Appends the text between quotation marks, escaped as JSON asks.
 void appendJSONString(std::string& out, std::string_view text);
-/// "2025-11-16T03:53:13Z"
-void appendISODate(std::string& out, WallTime date);
 
 } // namespace tarvo::status

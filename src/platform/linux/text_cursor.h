@@ -30,13 +30,25 @@ public:
         at_ = found == nullptr ? end_ : static_cast<const char*>(found) + 1;
     }
 
-    /// The next field of this line; empty when there is none.
+    /// The next field of this line; empty when there is none, and where a control character stands.
     std::string_view field() {
         skipBlanks();
         const char* const begin = at_;
-        while (at_ != end_ && !isBlank(*at_) && *at_ != '\n')
+        while (at_ != end_ && isInField(*at_))
             ++at_;
         return {begin, static_cast<std::size_t>(at_ - begin)};
+    }
+
+    /// The next field of this line as far as its last separator, which is passed too; what follows it within
+    /// the field is next. Absent, and the field passed, where it holds no separator.
+    std::optional<std::string_view> fieldUpToLast(char separator) {
+        const auto whole = field();
+        for (const char* found = at_; found != whole.data();) {
+            if (*--found != separator) continue;
+            at_ = found + 1;
+            return std::string_view(whole.data(), static_cast<std::size_t>(found - whole.data()));
+        }
+        return std::nullopt;
     }
 
     bool skipFields(int count) {
@@ -51,22 +63,27 @@ public:
     std::optional<std::uint64_t> number() {
         skipBlanks();
         const char* digit = at_;
+        const char* const safe = end_ - at_ > surelyFits ? at_ + surelyFits : end_;
         std::uint64_t value = 0;
-        for (; digit != end_ && isDigit(*digit); ++digit) {
-            const auto unit = static_cast<std::uint64_t>(*digit - '0');
-            if (digit - at_ >= surelyFits && value > (UINT64_MAX - unit) / 10) return std::nullopt;
-            value = value * 10 + unit;
+        for (; digit != safe && unitOf(*digit) <= 9; ++digit)
+            value = value * 10 + unitOf(*digit);
+        for (; digit != end_ && unitOf(*digit) <= 9; ++digit) {
+            if (value > (UINT64_MAX - unitOf(*digit)) / 10) return std::nullopt;
+            value = value * 10 + unitOf(*digit);
         }
-        if (digit == at_ || (digit != end_ && !isBlank(*digit) && *digit != '\n')) return std::nullopt;
+        if (digit == at_ || (digit != end_ && isInField(*digit))) return std::nullopt;
         at_ = digit;
         return value;
     }
 
 private:
-    static constexpr std::ptrdiff_t surelyFits = 19;
+    static constexpr std::ptrdiff_t surelyFits = 19; ///< digits that every 64-bit number can hold
 
     static bool isBlank(char character) { return character == ' ' || character == '\t'; }
-    static bool isDigit(char character) { return character >= '0' && character <= '9'; }
+    /// One comparison a character: blanks, line feeds and control characters are all below what fields hold.
+    static bool isInField(char character) { return static_cast<unsigned char>(character) > ' '; }
+    /// 0 to 9 for a digit, more for anything else.
+    static unsigned unitOf(char character) { return static_cast<unsigned char>(character) - unsigned{'0'}; }
     void skipBlanks() {
         while (at_ != end_ && isBlank(*at_))
             ++at_;

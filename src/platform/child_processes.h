@@ -15,6 +15,7 @@ struct ChildProcessRequest {
     std::vector<std::string> arguments{};
     /// Added to the environment of this process, in place of variables of the same name.
     std::vector<std::pair<std::string, std::string>> environment{};
+    std::string workingFolder{};                          ///< absolute path; empty: that of this process
     std::optional<std::chrono::milliseconds> timeLimit{}; ///< absent: as long as it takes
     bool keepErrorTail = false;                           ///< else standard error is thrown away
 };

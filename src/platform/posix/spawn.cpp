@@ -29,6 +29,9 @@ public:
     bool useNothing(int as, int mode) {
         return posix_spawn_file_actions_addopen(&actions_, as, "/dev/null", mode, 0) == 0;
     }
+    bool changeFolder(const std::string& folder) {
+        return posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()) == 0;
+    }
     const posix_spawn_file_actions_t* get() const { return &actions_; }
 
 private:
@@ -98,6 +101,7 @@ std::optional<SpawnedChild> spawn(const ChildProcessRequest& request) {
         actions.useNothing(STDIN_FILENO, O_RDONLY) && actions.use(output->writeEnd, STDOUT_FILENO) &&
         (error ? actions.use(error->writeEnd, STDERR_FILENO) : actions.useNothing(STDERR_FILENO, O_WRONLY));
     if (!prepared) return std::nullopt;
+    if (!request.workingFolder.empty() && !actions.changeFolder(request.workingFolder)) return std::nullopt;
 
     std::vector<std::string> arguments{request.executable};
     arguments.insert(arguments.end(), request.arguments.begin(), request.arguments.end());

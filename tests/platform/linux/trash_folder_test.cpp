@@ -1,0 +1,76 @@
+#include "platform/linux/trash_folder.h"
+
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tarvo::linux_platform {
+namespace {
+
+namespace files = std::filesystem;
+
+class TrashFolderTest : public testing::Test {
+protected:
+    void write(const files::path& path) {
+        files::create_directories(path.parent_path());
+        std::ofstream(path) << "x";
+    }
+
+    TemporaryFolder folder;
+    files::path root = folder.path();
+};
+
+TEST_F(TrashFolderTest, IsEmptiedWithItsRecords) {
+    write(root / "Trash/files/a.txt");
+    write(root / "Trash/files/deep/er/b.txt");
+    write(root / "Trash/info/a.txt.trashinfo");
+    write(root / "Trash/directorysizes");
+    EXPECT_FALSE(emptyTrashFolders({(root / "Trash").string()}));
+    EXPECT_TRUE(files::is_empty(root / "Trash/files"));
+    EXPECT_TRUE(files::is_empty(root / "Trash/info"));
+    EXPECT_FALSE(files::exists(root / "Trash/directorysizes"));
+}
+
+TEST_F(TrashFolderTest, LosesALinkButNeverWhatItPointsTo) {
+    write(root / "kept/precious.txt");
+    files::create_directories(root / "Trash/files");
+    files::create_directory_symlink(root / "kept", root / "Trash/files/link");
+    EXPECT_FALSE(emptyTrashFolders({(root / "Trash").string()}));
+    EXPECT_FALSE(files::exists(files::symlink_status(root / "Trash/files/link")));
+    EXPECT_TRUE(files::exists(root / "kept/precious.txt"));
+}
+
+TEST_F(TrashFolderTest, IsNotFollowedWhereItIsALinkItself) {
+    write(root / "elsewhere/files/precious.txt");
+    files::create_directory_symlink(root / "elsewhere", root / "Trash");
+    EXPECT_TRUE(trashFolders(root.string(), {}, 1000).empty());
+    files::create_directories(root / "Other");
+    files::create_directory_symlink(root / "elsewhere/files", root / "Other/files");
+    EXPECT_FALSE(emptyTrashFolders({(root / "Other").string()}));
+    EXPECT_TRUE(files::exists(root / "elsewhere/files/precious.txt"));
+}
+
+TEST_F(TrashFolderTest, IsFoundInTheHomeAndOnVolumes) {
+    files::create_directories(root / "data/Trash");
+    files::create_directories(root / "disk/.Trash-1000");
+    files::create_directories(root / "disk/.Trash-1001");
+    files::create_directories(root / "shared/.Trash/1000");
+    files::permissions(root / "shared/.Trash", files::perms::sticky_bit, files::perm_options::add);
+    files::create_directories(root / "unsafe/.Trash/1000");
+    const auto found = trashFolders(
+        (root / "data").string(),
+        {(root / "disk").string(), (root / "shared").string(), (root / "unsafe").string()}, 1000);
+    EXPECT_EQ(found,
+              (std::vector<std::string>{(root / "data/Trash").string(), (root / "disk/.Trash-1000").string(),
+                                        (root / "shared/.Trash/1000").string()}));
+}
+
+TEST_F(TrashFolderTest, OfNothingIsEmptyAlready) {
+    EXPECT_FALSE(emptyTrashFolders({(root / "missing").string()}));
+}
+
+} // namespace
+} // namespace tarvo::linux_platform

@@ -1,33 +1,64 @@
 #include "composition/machine.h"
 
+#include "platform/linux/linux_gpus.h"
 #include "platform/linux/linux_host_statistics.h"
+#include "platform/linux/linux_io_registry.h"
 #include "platform/linux/linux_network_interfaces.h"
+#include "platform/linux/linux_volumes.h"
+#include "platform/linux/linux_wifi_client.h"
+#include "platform/linux/nvml.h"
+#include "platform/linux/physical_disks.h"
 #include "platform/linux/root.h"
 #include "readers/cpu_monitor.h"
+#include "readers/disk_io_totals.h"
+#include "readers/disk_space.h"
+#include "readers/gpu_utilization.h"
 #include "readers/load_averages.h"
 #include "readers/local_ip_address.h"
 #include "readers/memory_usage.h"
 #include "readers/network_totals.h"
 #include "readers/public_address.h"
+#include "readers/wifi_info.h"
 
 #include <utility>
 
 namespace tarvo {
 
+using namespace linux_platform;
+
 struct Machine::Parts {
     Parts(MachineOptions given, Clock& theClock, Dispatcher& theDispatcher)
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
-          host(root), cpu(host), interfaces(root) {}
+          host(root), cpu(host), interfaces(root), disks(root), gpus(root, clock, nvidia()),
+          volumes(root, clock), wifiClient(root), wifi(wifiClient) {
+        registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
+        registry.provide("IOAccelerator", [this] { return gpus.services(); });
+    }
+
+    // The library answers for the running machine only.
+    NVIDIAUtilization nvidia() {
+        if (!root.isLive()) return nullptr;
+        return [this](const std::string& address, bool maySleep) {
+            return nvml.utilization(address, maySleep ? NVML::After::closes : NVML::After::staysOpen);
+        };
+    }
 
     MachineOptions options;
     Clock& clock;
     Dispatcher& dispatcher;
-    linux_platform::Root root;
+    Root root;
 
-    linux_platform::LinuxHostStatistics host;
+    LinuxHostStatistics host;
     CPUMonitor cpu;
-    linux_platform::LinuxNetworkInterfaces interfaces;
+    LinuxNetworkInterfaces interfaces;
     std::vector<LinkEntry> links;
+    NVML nvml;
+    PhysicalDisks disks;
+    LinuxGPUs gpus;
+    LinuxIORegistry registry;
+    LinuxVolumes volumes;
+    LinuxWiFiClient wifiClient;
+    WiFiInfo wifi;
 };
 
 Machine::Machine(MachineOptions options, Clock& clock, Dispatcher& dispatcher)
@@ -42,11 +73,23 @@ StatsReaders Machine::readers() {
     readers.memoryUsage = [parts] { return memoryUsage(parts->host); };
     readers.loadAverages = [parts] { return loadAverages(parts->host); };
     readers.networkTotals = [parts] { return networkTotals(parts->interfaces, parts->links); };
+    readers.diskSpace = [parts] { return diskSpace(parts->volumes); };
+    readers.diskIOTotals = [parts] { return diskIOTotals(parts->registry); };
     readers.localIPAddress = [parts] { return localIPAddress(parts->interfaces); };
     if (auto* const https = parts->options.https) {
         readers.fetchPublicIP = [https](auto completion) { fetchPublicIP(*https, std::move(completion)); };
     }
+    readers.gpuUtilizationPercent = [parts] { return gpuUtilizationPercent(parts->registry); };
+    readers.currentSSID = [parts] { return parts->wifi.currentSSID(); };
     return readers;
+}
+
+Volumes& Machine::volumes() {
+    return parts_->volumes;
+}
+
+WiFiClient& Machine::wifi() {
+    return parts_->wifiClient;
 }
 
 } // namespace tarvo

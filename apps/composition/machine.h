@@ -4,6 +4,8 @@
 #include "platform/clock.h"
 #include "platform/dispatcher.h"
 #include "platform/https_client.h"
+#include "platform/network_interfaces.h"
+#include "platform/volumes.h"
 
 #include <memory>
 #include <string>
@@ -25,6 +27,9 @@ public:
 
     /// One function for each reading that this platform can give.
     StatsReaders readers();
+
+    Volumes& volumes();
+    WiFiClient& wifi();
 
 private:
     struct Parts;

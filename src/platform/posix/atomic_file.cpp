@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace tarvo {
 namespace {
@@ -57,6 +58,13 @@ void startWriteBack([[maybe_unused]] const FileDescriptor& file) {
 #endif
 }
 
+/// Brings the content on its way to the disk, or all the way.
+bool settle(const FileDescriptor& file, AtomicFile::Durability durability) {
+    if (durability == AtomicFile::Durability::afterPowerCut) return ::fsync(file.get()) == 0;
+    startWriteBack(file);
+    return true;
+}
+
 std::int64_t modifiedNanoseconds(const struct stat& status) {
 #if defined(__APPLE__)
     const timespec& time = status.st_mtimespec;
@@ -68,7 +76,8 @@ std::int64_t modifiedNanoseconds(const struct stat& status) {
 
 } // namespace
 
-AtomicFile::AtomicFile(std::filesystem::path path) : path_(std::move(path)), temporaryPath_(path_) {
+AtomicFile::AtomicFile(std::filesystem::path path, Durability durability)
+    : path_(std::move(path)), temporaryPath_(path_), durability_(durability) {
     temporaryPath_ += ".new";
     createFolder(path_.parent_path());
 }
@@ -121,8 +130,7 @@ bool AtomicFile::replaceWith(std::span<iovec> pieces) {
         ::unlink(temporaryPath_.c_str());
         return false;
     }
-    startWriteBack(file);
-    if (::rename(temporaryPath_.c_str(), path_.c_str()) != 0) {
+    if (!settle(file, durability_) || ::rename(temporaryPath_.c_str(), path_.c_str()) != 0) {
         ::unlink(temporaryPath_.c_str());
         return false;
     }

@@ -17,9 +17,14 @@ namespace tarvo {
 /// file systems that may commit a rename before the data, write-back of the data is started first (Linux).
 class AtomicFile : public StoredFile {
 public:
+    enum class Durability {
+        afterKill,    ///< as above
+        afterPowerCut ///< the content is on the disk before the rename: for files that are written seldom
+    };
+
     /// Creates the file's folder (mode 0700) with those above it; a failure shows in the later reads and
     /// writes.
-    explicit AtomicFile(std::filesystem::path path);
+    explicit AtomicFile(std::filesystem::path path, Durability durability = Durability::afterKill);
 
     std::optional<std::string> read(std::size_t limit) override;
     bool replace(std::string_view content) override;
@@ -42,6 +47,7 @@ private:
 
     std::filesystem::path path_;
     std::filesystem::path temporaryPath_;
+    Durability durability_;
     std::optional<Identity> written_;
 };
 

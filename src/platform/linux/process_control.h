@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/linux/root.h"
+#include "platform/process_control.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace tarvo::linux_platform {
+
+/// Signals a process by a descriptor of the process itself (pidfd_open(2)), so that a number that is given to
+/// another process meanwhile cannot hit it; by its number alone where the kernel has no such descriptors.
+class LinuxProcessControl : public ProcessControl {
+public:
+    /// Start time, in clock ticks after boot, of the process that was listed under a number; absent when none
+    /// was.
+    using ListedStartTime = std::function<std::optional<std::uint64_t>(std::int32_t pid)>;
+
+    LinuxProcessControl(const Root& root, ListedStartTime listed);
+
+    bool terminate(std::int32_t pid) override;
+
+private:
+    bool isAsListed(std::int32_t pid) const;
+
+    std::string processes_;
+    ListedStartTime listed_;
+};
+
+} // namespace tarvo::linux_platform

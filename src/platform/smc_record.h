@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <type_traits>
 
 /// The wire format of the system management controller's user client.
@@ -14,6 +15,11 @@ constexpr std::uint32_t smcCode(char first, char second, char third, char fourth
         return static_cast<std::uint32_t>(static_cast<signed char>(character));
     };
     return byte(first) << 24 | byte(second) << 16 | byte(third) << 8 | byte(fourth);
+}
+
+/// The same for a text of exactly four characters.
+constexpr std::uint32_t smcCode(std::string_view text) {
+    return smcCode(text[0], text[1], text[2], text[3]);
 }
 
 /// The one selector of the user client; the command code in data8 tells the requests apart.

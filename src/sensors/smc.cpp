@@ -77,7 +77,7 @@ CSMCReadResult csmc_read_key(const char* key) {
 
     SMCRecord output;
     auto input = inputFor(SMCCommand::readKeyInfo);
-    input.key = smcCode(key[0], key[1], key[2], key[3]);
+    input.key = smcCode(key);
     if (!request(input, output) || output.result != 0) return failed;
     const auto size = output.keyInfo.dataSize;
     const auto type = output.keyInfo.dataType;

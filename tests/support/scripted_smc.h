@@ -34,7 +34,7 @@ public:
         Bytes outputBefore{};
     };
 
-    static std::uint32_t code(std::string_view name) { return smcCode(name[0], name[1], name[2], name[3]); }
+    static std::uint32_t code(std::string_view name) { return smcCode(name); }
     static std::vector<unsigned char> bigEndian32(std::uint32_t value) {
         return {static_cast<unsigned char>(value >> 24), static_cast<unsigned char>(value >> 16),
                 static_cast<unsigned char>(value >> 8), static_cast<unsigned char>(value)};

@@ -9,6 +9,8 @@
 #include "platform/linux/nvml.h"
 #include "platform/linux/physical_disks.h"
 #include "platform/linux/root.h"
+#include "platform/linux/system_battery.h"
+#include "platform/linux/virtual_smc.h"
 #include "readers/cpu_monitor.h"
 #include "readers/disk_io_totals.h"
 #include "readers/disk_space.h"
@@ -19,7 +21,10 @@
 #include "readers/network_totals.h"
 #include "readers/public_address.h"
 #include "readers/wifi_info.h"
+#include "sensors/battery_reader.h"
+#include "sensors/sensor_monitor.h"
 
+#include <optional>
 #include <utility>
 
 namespace tarvo {
@@ -29,17 +34,26 @@ using namespace linux_platform;
 struct Machine::Parts {
     Parts(MachineOptions given, Clock& theClock, Dispatcher& theDispatcher)
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
-          host(root), cpu(host), interfaces(root), disks(root), gpus(root, clock, nvidia()),
-          volumes(root, clock), wifiClient(root), wifi(wifiClient) {
+          host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
+          disks(root), gpus(root, clock, nvidia()), volumes(root, clock), wifiClient(root), wifi(wifiClient),
+          battery(root, dispatcher) {
         registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
         registry.provide("IOAccelerator", [this] { return gpus.services(); });
+        registry.provide("AppleSmartBattery", [this] { return battery.registryEntries(); });
+        if (options.readsSensors) openSensors();
+    }
+
+    void openSensors() {
+        smc = std::make_shared<VirtualSMC>(root, clock, nvml);
+        csmc_use_client(smc);
+        sensors.emplace();
     }
 
     // The library answers for the running machine only.
     NVIDIAUtilization nvidia() {
-        if (!root.isLive()) return nullptr;
+        if (!nvml) return nullptr;
         return [this](const std::string& address, bool maySleep) {
-            return nvml.utilization(address, maySleep ? NVML::After::closes : NVML::After::staysOpen);
+            return nvml->utilization(address, maySleep ? NVML::After::closes : NVML::After::staysOpen);
         };
     }
 
@@ -52,13 +66,16 @@ struct Machine::Parts {
     CPUMonitor cpu;
     LinuxNetworkInterfaces interfaces;
     std::vector<LinkEntry> links;
-    NVML nvml;
+    std::shared_ptr<NVML> nvml; ///< null for a recorded machine
     PhysicalDisks disks;
     LinuxGPUs gpus;
     LinuxIORegistry registry;
     LinuxVolumes volumes;
     LinuxWiFiClient wifiClient;
     WiFiInfo wifi;
+    SystemBattery battery;
+    std::shared_ptr<VirtualSMC> smc; ///< null when sensors are not read, as is the next
+    std::optional<SensorMonitor> sensors;
 };
 
 Machine::Machine(MachineOptions options, Clock& clock, Dispatcher& dispatcher)
@@ -75,6 +92,8 @@ StatsReaders Machine::readers() {
     readers.networkTotals = [parts] { return networkTotals(parts->interfaces, parts->links); };
     readers.diskSpace = [parts] { return diskSpace(parts->volumes); };
     readers.diskIOTotals = [parts] { return diskIOTotals(parts->registry); };
+    readers.batteryInfo = [parts] { return readBatteryInfo(parts->battery, parts->registry); };
+    if (parts->sensors) readers.sensorReadings = [parts] { return parts->sensors->read(); };
     readers.localIPAddress = [parts] { return localIPAddress(parts->interfaces); };
     if (auto* const https = parts->options.https) {
         readers.fetchPublicIP = [https](auto completion) { fetchPublicIP(*https, std::move(completion)); };
@@ -90,6 +109,14 @@ Volumes& Machine::volumes() {
 
 WiFiClient& Machine::wifi() {
     return parts_->wifiClient;
+}
+
+const SensorMonitor* Machine::sensors() const {
+    return parts_->sensors ? &*parts_->sensors : nullptr;
+}
+
+const SensorNames* Machine::sensorNames() const {
+    return parts_->smc.get();
 }
 
 } // namespace tarvo

@@ -12,8 +12,12 @@
 
 namespace tarvo {
 
+class SensorMonitor;
+class SensorNames;
+
 struct MachineOptions {
     std::string root;             ///< folder of a recorded machine; empty: the running one
+    bool readsSensors = true;     ///< without, no sensor is looked for and their readings stay absent
     HTTPSClient* https = nullptr; ///< without one the public address stays unknown; outlives the machine
 };
 
@@ -27,6 +31,12 @@ public:
 
     /// One function for each reading that this platform can give.
     StatsReaders readers();
+
+    /// The monitor behind the sensor readings, for the list of all temperatures; null when sensors are not
+    /// read. Its readings may run on any thread.
+    const SensorMonitor* sensors() const;
+    /// What the system calls the sensors; null when sensors are not read.
+    const SensorNames* sensorNames() const;
 
     Volumes& volumes();
     WiFiClient& wifi();

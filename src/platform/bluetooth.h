@@ -57,6 +57,13 @@ public:
 using BluetoothCentralManagerFactory =
     std::function<std::unique_ptr<BluetoothCentralManager>(BluetoothCentralDelegate& delegate)>;
 
+/// Charge of an accessory that the system knows by another way than the radio's services.
+struct AccessoryPower {
+    std::string address; ///< upper case, with colons
+    std::uint8_t percent = 0;
+    bool operator==(const AccessoryPower&) const = default;
+};
+
 struct PairedBluetoothDevice {
     std::optional<std::string> name;
     std::optional<std::string> address;

@@ -1,7 +1,7 @@
 #include "sensors/battery_reader.h"
 
-#include "support/fixed_io_registry.h"
 #include "support/fixed_power_sources.h"
+#include "support/scripted_io_registry.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ protected:
     }
 
     FixedPowerSources sources;
-    FixedIORegistry registry;
+    ScriptedIORegistry registry;
     PropertyDictionary description;
     PropertyDictionary entry;
 };
@@ -93,7 +93,7 @@ TEST_F(BatteryReader, EverythingThatIsNotSaidIsFalseOrAbsent) {
     registry.classes.clear();
     sources.list = PowerSourceList{description};
     EXPECT_EQ(readBatteryInfo(sources, registry), onlyCharge(40));
-    registry.classes["AppleSmartBattery"] = std::nullopt;
+    registry.fails = true;
     EXPECT_EQ(readBatteryInfo(sources, registry), onlyCharge(40));
 }
 

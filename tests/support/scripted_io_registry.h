@@ -12,6 +12,7 @@ namespace tarvo {
 class ScriptedIORegistry : public IORegistry {
 public:
     std::optional<std::vector<PropertyDictionary>> services(std::string_view className) override {
+        lookUps.emplace_back(className);
         if (fails) return std::nullopt;
         const auto position = classes.find(className);
         return position == classes.end() ? std::vector<PropertyDictionary>{} : position->second;
@@ -19,6 +20,7 @@ public:
 
     std::map<std::string, std::vector<PropertyDictionary>, std::less<>> classes;
     bool fails = false;
+    std::vector<std::string> lookUps;
 };
 
 } // namespace tarvo

@@ -2,8 +2,8 @@
 
 #include "platform/linux/linux_io_registry.h"
 #include "sensors/battery_reader.h"
-#include "support/fixed_io_registry.h"
 #include "support/manual_dispatcher.h"
+#include "support/scripted_io_registry.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ protected:
     ManualClock clock;
     ManualDispatcher dispatcher{clock};
     SystemBattery battery{Root(folder.path().string()), dispatcher};
-    FixedIORegistry registry;
+    ScriptedIORegistry registry;
 };
 
 using SystemBatteryReading = SystemBatteryTest;

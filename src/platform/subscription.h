@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
-#include <map>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace tarvo {
 
@@ -25,22 +26,31 @@ public:
     using Callback = std::function<void(Arguments...)>;
 
     [[nodiscard]] Subscription observe(Callback callback) {
+        dropEnded();
         auto entry = std::make_shared<Callback>(std::move(callback));
-        entries_.emplace(next_++, entry);
+        entries_.push_back(entry);
         return Subscription(std::move(entry));
     }
 
     void notify(Arguments... arguments) const {
-        const auto entries = entries_;
-        for (const auto& [order, entry] : entries) {
-            if (const auto callback = entry.lock()) (*callback)(arguments...);
+        ++notifying_;
+        // By index and count: a callback may add entries, which are called from the next time on.
+        const std::size_t count = entries_.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            if (const auto callback = entries_[i].lock()) (*callback)(arguments...);
         }
-        std::erase_if(entries_, [](const auto& item) { return item.second.expired(); });
+        --notifying_;
+        dropEnded();
     }
 
 private:
-    mutable std::map<unsigned long, std::weak_ptr<Callback>> entries_;
-    unsigned long next_ = 0;
+    void dropEnded() const {
+        if (notifying_ > 0) return; // an outer call still counts on the places
+        std::erase_if(entries_, [](const auto& entry) { return entry.expired(); });
+    }
+
+    mutable std::vector<std::weak_ptr<Callback>> entries_;
+    mutable int notifying_ = 0;
 };
 
 } // namespace tarvo

@@ -57,5 +57,16 @@ TEST(StatsModelAllocations, ASteadyTickMakesNone) {
     EXPECT_EQ(updates, 202);
 }
 
+TEST(StatsModelAllocations, TellingObserversMakesNone) {
+    Published<int> value;
+    int told = 0;
+    const auto first = value.observeWillChange([&] { ++told; });
+    const auto second = value.observeWillChange([&] { ++told; });
+    const auto before = allocationCount();
+    value.set(1);
+    EXPECT_EQ(allocationCount() - before, 0U);
+    EXPECT_EQ(told, 2);
+}
+
 } // namespace
 } // namespace tarvo

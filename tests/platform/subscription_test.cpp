@@ -45,5 +45,19 @@ TEST(Observers, ACallbackMayEndItsOwnSubscriptionAndAddAnother) {
     EXPECT_EQ(second, 1);
 }
 
+TEST(Observers, ANotificationWithinANotificationReachesAllOfThem) {
+    Observers<int> observers;
+    std::vector<int> seen;
+    std::optional<Subscription> ended = observers.observe([](int) {});
+    const auto first = observers.observe([&](int depth) {
+        ended.reset();
+        seen.push_back(depth * 10 + 1);
+        if (depth == 0) observers.notify(1);
+    });
+    const auto second = observers.observe([&](int depth) { seen.push_back(depth * 10 + 2); });
+    observers.notify(0);
+    EXPECT_EQ(seen, (std::vector{1, 11, 12, 2}));
+}
+
 } // namespace
 } // namespace tarvo

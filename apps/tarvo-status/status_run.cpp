@@ -5,9 +5,10 @@
 namespace tarvo::status {
 
 StatusRun::StatusRun(const Options& options, StatsModel& model, const Settings& settings,
-                     IntervalPreferences& preferences, TrackingDispatcher& dispatcher, Actions actions)
-    : options_(options), model_(model), settings_(settings), preferences_(preferences),
-      dispatcher_(dispatcher), actions_(std::move(actions)) {}
+                     IntervalPreferences& preferences, const Clock& clock, TrackingDispatcher& dispatcher,
+                     Actions actions)
+    : options_(options), model_(model), settings_(settings), preferences_(preferences), clock_(clock),
+      dispatcher_(dispatcher), actions_(std::move(actions)), lastPreferenceRefresh_(clock.steadyNow()) {}
 
 void StatusRun::start() {
     preferences_.setInterval(primingTime);
@@ -23,12 +24,15 @@ void StatusRun::modelDidUpdate(const StatsSnapshot& snapshot) {
         if (!std::exchange(isWaiting_, true)) printOnceIdle();
         return;
     }
-    followInterval();
+    followPreferences();
     actions_.print(snapshot);
 }
 
-// The preference may change while we run.
-void StatusRun::followInterval() {
+void StatusRun::followPreferences() {
+    if (clock_.steadyNow() - lastPreferenceRefresh_ >= preferencePeriod) {
+        lastPreferenceRefresh_ = clock_.steadyNow();
+        actions_.refreshPreferences();
+    }
     preferences_.setInterval(options_.interval);
     if (interval_ == settings_.refreshInterval()) return;
     interval_ = settings_.refreshInterval();

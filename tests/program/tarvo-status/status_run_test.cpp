@@ -29,13 +29,18 @@ protected:
         readers.topProcesses = [](ProcessSort, std::int64_t) { return std::vector<ProcInfo>{{.pid = 1}}; };
         model = StatsModel::make(settings, clock, dispatcher, readers, nullptr);
         run =
-            std::make_unique<StatusRun>(options, *model, settings, preferences, dispatcher,
+            std::make_unique<StatusRun>(options, *model, settings, preferences, clock, dispatcher,
                                         StatusRun::Actions{.print =
                                                                [this](const StatsSnapshot& snapshot) {
                                                                    printed.push_back(snapshot);
                                                                    times.push_back(clock.steadyNow() - began);
                                                                },
-                                                           .end = [this] { ++ends; }});
+                                                           .end = [this] { ++ends; },
+                                                           .refreshPreferences =
+                                                               [this] {
+                                                                   ++refreshes;
+                                                                   if (changePreferences) changePreferences();
+                                                               }});
         began = clock.steadyNow();
         run->start();
     }
@@ -54,6 +59,8 @@ protected:
     std::vector<StatsSnapshot> printed;
     std::vector<SteadyTime::duration> times;
     int ends = 0;
+    int refreshes = 0;
+    std::function<void()> changePreferences;
 };
 
 TEST_F(StatusRunTest, PrintsOnceAfterAQuarterOfASecondAndEnds) {
@@ -127,6 +134,20 @@ TEST_F(StatusRunTest, FollowsAPreferenceThatChanges) {
     user.set("refreshInterval", 1.0);
     manual.advance(4s);
     EXPECT_THAT(times, ElementsAre(250ms, 2'250ms, 3'250ms, 4'250ms));
+}
+
+TEST_F(StatusRunTest, LooksAtThePreferencesEveryFiveSecondsAtMost) {
+    start({.interval = Seconds(0.1)});
+    manual.advance(61s);
+    EXPECT_EQ(refreshes, 12);
+}
+
+TEST_F(StatusRunTest, PrintsWithPreferencesThatItHasJustRead) {
+    changePreferences = [this] { user.set("refreshInterval", 1.0); };
+    start({});
+    manual.advance(8s);
+    EXPECT_THAT(times, ElementsAre(250ms, 2'250ms, 4'250ms, 6'250ms, 7'250ms));
+    EXPECT_EQ(refreshes, 1);
 }
 
 TEST_F(StatusRunTest, KeepsOneTimer) {

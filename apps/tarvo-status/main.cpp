@@ -1,0 +1,146 @@
+#include "composition/machine.h"
+#include "core/settings.h"
+#include "core/stats_model.h"
+#include "interval_preferences.h"
+#include "line_format.h"
+#include "line_output.h"
+#include "localization/localization_manager.h"
+#include "options.h"
+#include "platform/build_options.h"
+#include "platform/linux/preference_file.h"
+#include "platform/linux/system_language.h"
+#include "platform/linux/xdg_directories.h"
+#include "platform/posix/environment.h"
+#include "platform/posix/poll_dispatcher.h"
+#include "platform/posix/system_clock.h"
+#include "status_run.h"
+#include "tracking_dispatcher.h"
+
+#include <fmt/format.h>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace tarvo::status {
+namespace {
+
+enum ExitStatus { success = 0, outputFailed = 1, badArguments = 2 };
+
+int fail(ExitStatus status, std::string_view message) {
+    LineOutput(STDERR_FILENO).write(fmt::format("tarvo-status: {}\n", message));
+    return status;
+}
+
+int write(std::string_view text) {
+    const auto result = LineOutput(STDOUT_FILENO).write(text);
+    return result == LineOutput::Result::failed ? fail(outputFailed, "cannot write to standard output")
+                                                : success;
+}
+
+/// Prints each snapshot, and stops the loop when the lines no longer arrive.
+class Printer {
+public:
+    Printer(OutputFormat format, const Settings& settings, const LocalizationManager& localization,
+            PollDispatcher& loop)
+        : format_(format), settings_(settings), localization_(localization), loop_(loop) {}
+
+    void print(const StatsSnapshot& snapshot) {
+        writeLine(line_, format_, snapshot, settings_, localization_);
+        const auto result = LineOutput(STDOUT_FILENO).write(line_);
+        if (result == LineOutput::Result::written) return;
+        if (result == LineOutput::Result::failed)
+            status_ = fail(outputFailed, "cannot write to standard output");
+        loop_.stop();
+    }
+    int status() const { return status_; }
+
+private:
+    OutputFormat format_;
+    const Settings& settings_;
+    const LocalizationManager& localization_;
+    PollDispatcher& loop_;
+    std::string line_;
+    int status_ = success;
+};
+
+// There is nothing to save and nothing that waits, so the end needs no turn of the loop.
+void endNow(int) {
+    ::_exit(success);
+}
+
+void handleSignals() {
+    struct sigaction ending {};
+    ending.sa_handler = endNow;
+    ::sigaction(SIGTERM, &ending, nullptr);
+    ::sigaction(SIGINT, &ending, nullptr);
+    struct sigaction ignoring {};
+    ignoring.sa_handler = SIG_IGN;
+    ::sigaction(SIGPIPE, &ignoring, nullptr);
+}
+
+bool isFolder(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+int run(const Options& options) {
+    SystemClock clock;
+    PollDispatcher loop(clock);
+    TrackingDispatcher dispatcher(loop);
+    linux_platform::PreferenceFile user(linux_platform::preferenceFilePath(processEnvironment).value_or(""),
+                                        clock);
+    IntervalPreferences preferences(user);
+    Settings settings(preferences);
+    const LocalizationManager localization(preferences,
+                                           linux_platform::systemLanguageCode(processEnvironment));
+    Machine machine({.root = options.root}, clock, dispatcher);
+    const auto model = StatsModel::make(settings, clock, dispatcher, machine.readers(), nullptr);
+
+    Printer printer(options.format, settings, localization, loop);
+    StatusRun run(options, *model, settings, preferences, clock, dispatcher,
+                  {.print = [&](const StatsSnapshot& snapshot) { printer.print(snapshot); },
+                   .end = [&] { loop.stop(); },
+                   .refreshPreferences = [&] { user.reloadIfChanged(); }});
+    loop.watchHangUp(STDOUT_FILENO, [&] { loop.stop(); });
+    run.start();
+    loop.run();
+    // A reading may hang for good; what it uses must then stay.
+    if (!loop.finish(std::chrono::seconds(1))) ::_exit(printer.status());
+    return printer.status();
+}
+
+int perform(const Options& options) {
+    if (!options.root.empty() && !isFolder(options.root)) {
+        return fail(badArguments, fmt::format("--root: there is no folder '{}'", options.root));
+    }
+    return run(options);
+}
+int perform(const ShowHelp&) {
+    return write(helpText());
+}
+int perform(const ShowVersion&) {
+    return write(fmt::format("tarvo-status {}\n", build_options::version));
+}
+int perform(const UsageError& error) {
+    return fail(badArguments, fmt::format("{}; see tarvo-status --help", error.message));
+}
+
+} // namespace
+} // namespace tarvo::status
+
+int main(int argc, char** argv) {
+    using namespace tarvo::status;
+    // A file that is opened later must not take the place of a closed standard output.
+    if (::fcntl(STDOUT_FILENO, F_GETFD) < 0) return fail(outputFailed, "standard output is closed");
+    handleSignals();
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    return std::visit([](const auto& request) { return perform(request); }, parseArguments(arguments));
+}

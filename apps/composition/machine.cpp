@@ -1,5 +1,6 @@
 #include "composition/machine.h"
 
+#include "composition/process_sources.h"
 #include "platform/linux/linux_gpus.h"
 #include "platform/linux/linux_host_statistics.h"
 #include "platform/linux/linux_io_registry.h"
@@ -11,6 +12,8 @@
 #include "platform/linux/root.h"
 #include "platform/linux/system_battery.h"
 #include "platform/linux/virtual_smc.h"
+#include "processes/network_processes.h"
+#include "processes/process_list.h"
 #include "readers/cpu_monitor.h"
 #include "readers/disk_io_totals.h"
 #include "readers/disk_space.h"
@@ -36,7 +39,7 @@ struct Machine::Parts {
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
           host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
           disks(root), gpus(root, clock, nvidia()), volumes(root, clock), wifiClient(root), wifi(wifiClient),
-          battery(root, dispatcher) {
+          battery(root, dispatcher), processes(root, clock) {
         registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
         registry.provide("IOAccelerator", [this] { return gpus.services(); });
         registry.provide("AppleSmartBattery", [this] { return battery.registryEntries(); });
@@ -76,6 +79,7 @@ struct Machine::Parts {
     SystemBattery battery;
     std::shared_ptr<VirtualSMC> smc; ///< null when sensors are not read, as is the next
     std::optional<SensorMonitor> sensors;
+    ProcessSources processes;
 };
 
 Machine::Machine(MachineOptions options, Clock& clock, Dispatcher& dispatcher)
@@ -99,6 +103,13 @@ StatsReaders Machine::readers() {
         readers.fetchPublicIP = [https](auto completion) { fetchPublicIP(*https, std::move(completion)); };
     }
     readers.gpuUtilizationPercent = [parts] { return gpuUtilizationPercent(parts->registry); };
+    readers.topProcesses = [parts](ProcessSort sortedBy, std::int64_t limit) {
+        return topProcesses(parts->processes.modelTable, sortedBy, limit);
+    };
+    readers.topNetworkProcesses = [parts](std::int64_t limit) {
+        return topNetworkProcesses(parts->processes.traffic, limit);
+    };
+    readers.sampleProcessDemand = [parts] { parts->processes.demand.sample(); };
     readers.currentSSID = [parts] { return parts->wifi.currentSSID(); };
     return readers;
 }
@@ -117,6 +128,29 @@ const SensorMonitor* Machine::sensors() const {
 
 const SensorNames* Machine::sensorNames() const {
     return parts_->smc.get();
+}
+
+Machine::ProcessLister Machine::processList() {
+    return [parts = parts_](ProcessSort sortedBy, std::int64_t limit) {
+        return topProcesses(parts->processes.detailTable, sortedBy, limit);
+    };
+}
+
+Machine::ConnectionsFetcher Machine::connections() {
+    return [parts = parts_](NetworkConnectionsFetcher::Completion completion) {
+        // The work on the background queue keeps the sources alive until it has handed over its list.
+        NetworkConnectionsFetcher::fetch(
+            parts->processes.sockets, parts->dispatcher,
+            [parts, completion = std::move(completion)](auto list) { completion(std::move(list)); });
+    };
+}
+
+ProcessDemandTracker& Machine::processDemand() {
+    return parts_->processes.demand;
+}
+
+ProcessControl& Machine::processControl() {
+    return parts_->processes.control;
 }
 
 } // namespace tarvo

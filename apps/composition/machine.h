@@ -5,10 +5,16 @@
 #include "platform/dispatcher.h"
 #include "platform/https_client.h"
 #include "platform/network_interfaces.h"
+#include "platform/process_control.h"
 #include "platform/volumes.h"
+#include "processes/network_connections_fetcher.h"
+#include "processes/process_demand_tracker.h"
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarvo {
 
@@ -40,6 +46,16 @@ public:
 
     Volumes& volumes();
     WiFiClient& wifi();
+
+    /// Lists processes for the table of the detail window; blocks, so not on the main thread.
+    using ProcessLister = std::function<std::vector<ProcInfo>(ProcessSort, std::int64_t limit)>;
+    ProcessLister processList();
+    /// Lists the open connections in the background and hands them over on the main thread.
+    using ConnectionsFetcher = std::function<void(NetworkConnectionsFetcher::Completion)>;
+    ConnectionsFetcher connections();
+    /// What readers().sampleProcessDemand counts into.
+    ProcessDemandTracker& processDemand();
+    ProcessControl& processControl();
 
 private:
     struct Parts;

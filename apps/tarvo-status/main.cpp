@@ -2,8 +2,8 @@
 #include "core/settings.h"
 #include "core/stats_model.h"
 #include "interval_preferences.h"
-#include "line_format.h"
 #include "line_output.h"
+#include "line_writer.h"
 #include "localization/localization_manager.h"
 #include "options.h"
 #include "platform/build_options.h"
@@ -24,8 +24,10 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -48,13 +50,12 @@ int write(std::string_view text) {
 /// Prints each snapshot, and stops the loop when the lines no longer arrive.
 class Printer {
 public:
-    Printer(OutputFormat format, const Settings& settings, const LocalizationManager& localization,
-            PollDispatcher& loop)
-        : format_(format), settings_(settings), localization_(localization), loop_(loop) {}
+    Printer(LineWriter writer, const std::optional<LocalizationManager>& localization, PollDispatcher& loop)
+        : writer_(std::move(writer)), localization_(localization), loop_(loop) {}
 
     void print(const StatsSnapshot& snapshot) {
-        writeLine(line_, format_, snapshot, settings_, localization_);
-        const auto result = LineOutput(STDOUT_FILENO).write(line_);
+        const auto result =
+            LineOutput(STDOUT_FILENO).write(writer_.write(snapshot, localization_->language()));
         if (result == LineOutput::Result::written) return;
         if (result == LineOutput::Result::failed)
             status_ = fail(outputFailed, "cannot write to standard output");
@@ -63,11 +64,9 @@ public:
     int status() const { return status_; }
 
 private:
-    OutputFormat format_;
-    const Settings& settings_;
-    const LocalizationManager& localization_;
+    LineWriter writer_;
+    const std::optional<LocalizationManager>& localization_;
     PollDispatcher& loop_;
-    std::string line_;
     int status_ = success;
 };
 
@@ -99,16 +98,22 @@ int run(const Options& options) {
                                         clock);
     IntervalPreferences preferences(user);
     Settings settings(preferences);
-    const LocalizationManager localization(preferences,
-                                           linux_platform::systemLanguageCode(processEnvironment));
+    std::optional<LocalizationManager> localization;
+    const auto chooseLanguage = [&] {
+        localization.emplace(preferences, linux_platform::systemLanguageCode(processEnvironment));
+    };
+    chooseLanguage();
     Machine machine({.root = options.root}, clock, dispatcher);
     const auto model = StatsModel::make(settings, clock, dispatcher, machine.readers(), nullptr);
 
-    Printer printer(options.format, settings, localization, loop);
+    Printer printer(LineWriter(options.format, settings), localization, loop);
     StatusRun run(options, *model, settings, preferences, clock, dispatcher,
                   {.print = [&](const StatsSnapshot& snapshot) { printer.print(snapshot); },
                    .end = [&] { loop.stop(); },
-                   .refreshPreferences = [&] { user.reloadIfChanged(); }});
+                   .refreshPreferences =
+                       [&] {
+                           if (user.reloadIfChanged()) chooseLanguage();
+                       }});
     loop.watchHangUp(STDOUT_FILENO, [&] { loop.stop(); });
     run.start();
     loop.run();

@@ -20,17 +20,16 @@ std::string_view name(LoadBand band) {
 
 } // namespace
 
-void appendWaybarObject(std::string& out, const StatsSnapshot& snapshot, const Settings& settings,
-                        AppLanguage language) {
+void appendWaybarObject(std::string& out, std::string& scratch, const StatsSnapshot& snapshot,
+                        const Settings& settings, AppLanguage language) {
     JSONWriter json(out);
-    std::string text;
     json.beginObject();
     json.key("text");
-    writeCombinedText(text, snapshot, settings);
-    json.value(std::string_view(text));
+    writeCombinedText(scratch, snapshot, settings);
+    json.value(std::string_view(scratch));
     json.key("tooltip");
-    writeCombinedToolTip(text, snapshot, settings, language);
-    json.value(std::string_view(text));
+    writeCombinedToolTip(scratch, snapshot, settings, language);
+    json.value(std::string_view(scratch));
     json.key("class");
     json.value(name(loadBand(snapshot)));
     json.endObject();

@@ -40,6 +40,12 @@ void writePart(std::string& text, MenuBarModule module, const StatsSnapshot& sna
     }
 }
 
+void writeToolTipLine(std::string& text, MenuBarModule module, std::string_view value, AppLanguage language) {
+    text += label(module, language);
+    text += ": ";
+    text += value;
+}
+
 // A graph or an icon is drawn from processor and memory, whether their modules are enabled or not.
 bool belongsToCombinedItem(MenuBarModule module, const Settings& settings) {
     const bool isDrawn = module == MenuBarModule::cpu || module == MenuBarModule::mem;
@@ -138,13 +144,15 @@ void writeCombinedToolTip(std::string& text, const StatsSnapshot& snapshot, cons
         const auto value = moduleValue(module, snapshot, settings);
         if (!value) continue;
         if (!text.empty()) text += '\n';
-        text += moduleToolTip(module, *value, language);
+        writeToolTipLine(text, module, *value, language);
     }
     if (text.empty()) text = applicationName;
 }
 
 std::string moduleToolTip(MenuBarModule module, std::string_view value, AppLanguage language) {
-    return fmt::format("{}: {}", label(module, language), value);
+    std::string text;
+    writeToolTipLine(text, module, value, language);
+    return text;
 }
 
 } // namespace tarvo

@@ -294,6 +294,12 @@ class Stream(ProgramTest):
         line = self.read_until(process, lambda line: not line.startswith(b"CPU"))[-1]
         self.assertRegex(line.decode(), r"^RAM \d+%\n$")
 
+    def test_follows_a_language_that_changes(self):
+        process = self.start("--interval", "0.1", "--format", "waybar")
+        self.assertIn("Memory: ", json.loads(process.stdout.readline())["tooltip"])
+        self.write_preferences({"appLanguage": "cs"})
+        self.read_until(process, lambda line: "Paměť: " in json.loads(line)["tooltip"])
+
     def test_ends_quietly_when_the_reader_ends(self):
         pipeline = f"'{PROGRAM}' --root '{self.root}' --interval 0.05; echo status $? >&2"
         done = subprocess.run(

@@ -15,7 +15,8 @@ nlohmann::ordered_json object(double cpu, double mem, AppLanguage language) {
     snapshot.cpu = cpu;
     snapshot.memPercent = mem;
     std::string out;
-    appendWaybarObject(out, snapshot, settings, language);
+    std::string scratch = "left from before";
+    appendWaybarObject(out, scratch, snapshot, settings, language);
     return nlohmann::ordered_json::parse(out);
 }
 

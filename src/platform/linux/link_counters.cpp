@@ -14,6 +14,16 @@ std::optional<unsigned> parseFlags(std::optional<std::string_view> text) {
     return parseHexadecimal<unsigned>(text->substr(0, text->find('\n')));
 }
 
+bool add(const LinkStatistics& statistics, LinkStatistics& sum) {
+    LinkStatistics result;
+    if (__builtin_add_overflow(sum.receivedBytes, statistics.receivedBytes, &result.receivedBytes) ||
+        __builtin_add_overflow(sum.sentBytes, statistics.sentBytes, &result.sentBytes)) {
+        return false;
+    }
+    sum = result;
+    return true;
+}
+
 } // namespace
 
 LinkCounters::LinkCounters(const Root& root) : root_(root), dev_(root.path("/proc/net/dev")) {}
@@ -25,6 +35,8 @@ bool LinkCounters::read(std::vector<LinkEntry>& entries) {
     if (!namesAreKnown()) findRoles();
     const bool hardwareIsUp = readFlags();
 
+    // Counters that cannot be true must not reach the readers' checked sums.
+    LinkStatistics sum;
     entries.resize(counters_.size());
     for (std::size_t index = 0; index < counters_.size(); ++index) {
         const auto& interface = interfaces_[index];
@@ -33,8 +45,8 @@ bool LinkCounters::read(std::vector<LinkEntry>& entries) {
                  .isUp = (interface.flags & IFF_UP) != 0,
                  .isLoopback = (interface.flags & IFF_LOOPBACK) != 0,
                  .statistics = std::nullopt};
-        if (!counts(interface, hardwareIsUp)) continue;
-        entry.statistics = LinkStatistics{counters_[index].receivedBytes, counters_[index].sentBytes};
+        const LinkStatistics statistics{counters_[index].receivedBytes, counters_[index].sentBytes};
+        if (counts(interface, hardwareIsUp) && add(statistics, sum)) entry.statistics = statistics;
     }
     return true;
 }

@@ -31,18 +31,20 @@ bool belongsToThePackageSystem(const Mount& mount) {
 }
 
 bool isAtASystemPath(std::string_view point) {
-    constexpr std::array<std::string_view, 12> folders{"/boot",
+    // Below /etc stand the single files that containers are given.
+    constexpr std::array<std::string_view, 13> folders{"/boot",
                                                        "/efi",
+                                                       "/etc",
                                                        "/proc",
                                                        "/sys",
                                                        "/dev",
                                                        "/run",
                                                        "/ostree",
+                                                       "/sysroot",
+                                                       "/nix/store",
                                                        "/var/lib/docker",
                                                        "/var/lib/containers",
-                                                       "/var/lib/flatpak",
-                                                       "/nix/store",
-                                                       "/sysroot"};
+                                                       "/var/lib/flatpak"};
     if (point.starts_with("/run/media/")) return false;
     if (point.find("/.") != std::string_view::npos) return true;
     return std::any_of(folders.begin(), folders.end(),

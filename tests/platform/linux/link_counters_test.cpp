@@ -142,6 +142,13 @@ TEST_F(LinkCountersOfATree, CountNothingWhereTheClassesAreHidden) {
     EXPECT_FALSE(entries[1].isUp);
 }
 
+TEST_F(LinkCountersOfATree, DoNotHandOutSumsThatDoNotFit) {
+    folder.write("proc/net/dev", "eth0: 18446744073709551615 0 0 0 0 0 0 0 5\neth1: 1 0 0 0 0 0 0 0 5\n");
+    add("eth0", true);
+    add("eth1", true);
+    EXPECT_EQ(counted(), (Counted{{0, UINT64_MAX}}));
+}
+
 TEST_F(LinkCountersOfATree, FailWithoutCounters) {
     EXPECT_FALSE(counters.read(entries));
     folder.write("proc/net/dev", "");

@@ -14,17 +14,28 @@ struct Style {
     QFont::Weight weight;
 };
 
-constexpr std::array<Style, 20> styles{{
-    {TextRole::axis, 8, QFont::Normal},           {TextRole::version, 9, QFont::Normal},
-    {TextRole::ringDetail, 9, QFont::Normal},     {TextRole::badge, 9.5, QFont::Bold},
-    {TextRole::tileLabel, 9.5, QFont::Medium},    {TextRole::caption, 10, QFont::Medium},
-    {TextRole::placeholder, 10, QFont::Normal},   {TextRole::ringTitle, 10, QFont::Medium},
-    {TextRole::heroDetail, 10.5, QFont::Normal},  {TextRole::button, 11, QFont::Medium},
-    {TextRole::bannerText, 11.5, QFont::Normal},  {TextRole::rowLabel, 12, QFont::Medium},
-    {TextRole::rowValue, 12, QFont::DemiBold},    {TextRole::heroTitle, 13, QFont::DemiBold},
-    {TextRole::cardTitle, 12, QFont::DemiBold},   {TextRole::ringValue, 13, QFont::DemiBold},
-    {TextRole::bannerTitle, 13, QFont::DemiBold}, {TextRole::productName, 14, QFont::Bold},
-    {TextRole::sectionTitle, 22, QFont::Bold},    {TextRole::heroValue, 40, QFont::Bold},
+constexpr std::array<Style, 21> styles{{
+    {TextRole::axis, 8, QFont::Normal},
+    {TextRole::version, 9, QFont::Normal},
+    {TextRole::ringDetail, 9, QFont::Normal},
+    {TextRole::badge, 9.5, QFont::Bold},
+    {TextRole::tileLabel, 9.5, QFont::Medium},
+    {TextRole::caption, 10, QFont::Medium},
+    {TextRole::sectionCaption, 10, QFont::DemiBold},
+    {TextRole::placeholder, 10, QFont::Normal},
+    {TextRole::ringTitle, 10, QFont::Medium},
+    {TextRole::heroDetail, 10.5, QFont::Normal},
+    {TextRole::button, 11, QFont::Medium},
+    {TextRole::bannerText, 11.5, QFont::Normal},
+    {TextRole::rowLabel, 12, QFont::Medium},
+    {TextRole::rowValue, 12, QFont::DemiBold},
+    {TextRole::heroTitle, 13, QFont::DemiBold},
+    {TextRole::cardTitle, 12, QFont::DemiBold},
+    {TextRole::ringValue, 13, QFont::DemiBold},
+    {TextRole::bannerTitle, 13, QFont::DemiBold},
+    {TextRole::productName, 14, QFont::Bold},
+    {TextRole::sectionTitle, 22, QFont::Bold},
+    {TextRole::heroValue, 40, QFont::Bold},
 }};
 
 constexpr bool tableFollowsTheEnumeration() {

@@ -12,6 +12,7 @@ enum class TextRole {
     badge,
     tileLabel,
     caption,
+    sectionCaption,
     placeholder,
     ringTitle,
     heroDetail,

@@ -1,0 +1,40 @@
+#include "ui/pages/tile_grid.h"
+
+#include "ui/style/metrics.h"
+
+#include <QGridLayout>
+
+namespace tarvo::ui {
+namespace {
+
+ModuleToggleTile* makeTile(SettingsSection& section, PanelContext& context, const BoundTile& tile) {
+    auto* button = new ModuleToggleTile;
+    button->setObjectName(QString::fromUtf8(tile.key.data(), static_cast<qsizetype>(tile.key.size())));
+    QObject::connect(button, &QAbstractButton::clicked, button, [&context, &tile](bool isOn) {
+        SettingBindings(context.settings, context.notifications).set(tile.key, isOn);
+    });
+    section.onRefresh([button, &context, &tile] {
+        button->set({std::string(tile.icon), context.loc.t(tile.label), tile.color});
+        button->setOn(context.settings.boolean(tile.key));
+    });
+    return button;
+}
+
+} // namespace
+
+void addTileGrid(SettingsSection& section, PanelContext& context, std::span<const BoundTile> tiles,
+                 int columns) {
+    auto* box = new QWidget;
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(metrics::tight);
+    for (std::size_t index = 0; index < tiles.size(); ++index) {
+        const int place = static_cast<int>(index);
+        grid->addWidget(makeTile(section, context, tiles[index]), place / columns, place % columns);
+    }
+    for (int column = 0; column < columns; ++column)
+        grid->setColumnStretch(column, 1);
+    section.addWidget(box);
+}
+
+} // namespace tarvo::ui

@@ -4,9 +4,10 @@
 
 #include <gtest/gtest.h>
 
-// Any warning of the toolkit that no test announced is a failure.
+// Any warning of the toolkit is a failure, but for what the platform without a screen says of itself.
 static void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type == QtDebugMsg || type == QtInfoMsg) return;
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()")) return;
     ADD_FAILURE() << "unexpected message: " << message.toStdString();
 }
 

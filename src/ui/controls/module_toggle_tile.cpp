@@ -17,7 +17,7 @@ constexpr double tileRadius = 10;
 constexpr double symbolSize = 16;
 constexpr double markSize = 13;
 constexpr double offOpacity = 0.13;
-constexpr int labelLines = 2;
+constexpr double tileTop = 6;
 
 } // namespace
 
@@ -33,13 +33,18 @@ void ModuleToggleTile::set(ModuleToggleTileFields fields) {
     update();
 }
 
+void ModuleToggleTile::setLabelLines(int lines) {
+    labelLines_ = lines;
+    updateGeometry();
+}
+
 void ModuleToggleTile::setOn(bool isOn) {
     setChecked(isOn);
 }
 
 QSize ModuleToggleTile::sizeHint() const {
     const double line = QFontMetricsF(roleFont(TextRole::tileLabel)).height();
-    return {64, static_cast<int>(std::ceil(tileSize + labelLines * line)) + 3 * metrics::tight};
+    return {64, static_cast<int>(std::ceil(tileTop + tileSize + labelLines_ * line)) + 2 * metrics::tight};
 }
 
 void ModuleToggleTile::paintEvent(QPaintEvent*) {
@@ -48,7 +53,7 @@ void ModuleToggleTile::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme().color(colors::primary.withOpacity(emphasis() / 2)));
     painter.drawRoundedRect(QRectF(rect()), tileRadius, tileRadius);
-    const QRectF tile((width() - tileSize) / 2, metrics::tight, tileSize, tileSize);
+    const QRectF tile((width() - tileSize) / 2, tileTop, tileSize, tileSize);
     paintTile(painter, tile);
     paintLabel(painter, tile.bottom() + metrics::tight);
     paintFocus(painter, rect(), tileRadius);
@@ -59,7 +64,7 @@ void ModuleToggleTile::paintTile(QPainter& painter, const QRectF& tile) const {
     if (isOn()) {
         paintIconTile(painter, shades, tile, {fields_.icon, symbolSize, tileRadius}, fields_.color);
         QRectF mark(0, 0, markSize, markSize);
-        mark.moveCenter(tile.topRight() + QPointF(-1, 1));
+        mark.moveCenter(tile.topRight() + QPointF(-2, 2));
         painter.setBrush(shades.card());
         painter.drawEllipse(mark.adjusted(-1, -1, 1, 1));
         paintSymbol(painter, mark, "checkmark.circle.fill", shades.color(fields_.color));

@@ -19,6 +19,8 @@ public:
     explicit ModuleToggleTile(QWidget* parent = nullptr);
     void set(ModuleToggleTileFields fields);
     void setOn(bool isOn);
+    /// How many lines the label has room for.
+    void setLabelLines(int lines);
     bool isOn() const { return isChecked(); }
     QSize sizeHint() const override;
 
@@ -30,6 +32,7 @@ private:
     void paintLabel(QPainter& painter, double top) const;
 
     ModuleToggleTileFields fields_;
+    int labelLines_ = 2;
 };
 
 } // namespace tarvo::ui

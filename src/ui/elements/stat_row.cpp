@@ -17,6 +17,7 @@ constexpr double symbolSize = 12;
 constexpr double tileRadius = 6;
 constexpr int spacing = 8;
 constexpr int verticalPadding = 6;
+constexpr double leastValueShare = 0.6;
 
 } // namespace
 
@@ -52,15 +53,18 @@ void StatRow::paintEvent(QPaintEvent*) {
     paintIconTile(painter, shades, tile, {fields().icon, symbolSize, tileRadius}, fields().iconColor);
 
     const QRectF line = QRectF(rect()).adjusted(tileSize + spacing, 0, 0, 0);
+    const TabularText label(roleFont(TextRole::rowLabel));
+    const QString name = QString::fromStdString(fields().label);
+    const double valueRoom =
+        std::max(line.width() - label.width(name) - spacing, line.width() * leastValueShare);
     const TabularText value(roleFont(TextRole::rowValue));
-    const QString reading = value.elided(QString::fromStdString(fields().value), line.width());
+    const QString reading = value.elided(QString::fromStdString(fields().value), valueRoom);
     painter.setPen(shades.color(fields().valueColor));
     value.draw(painter, line, Qt::AlignRight, reading);
 
-    const TabularText label(roleFont(TextRole::rowLabel));
     const double room = std::max(0.0, line.width() - value.width(reading) - spacing);
     painter.setPen(shades.color(colors::primary));
-    label.draw(painter, line, Qt::AlignLeft, label.elided(QString::fromStdString(fields().label), room));
+    label.draw(painter, line, Qt::AlignLeft, label.elided(name, room));
 }
 
 } // namespace tarvo::ui

@@ -16,7 +16,7 @@ struct StatRowFields {
 };
 
 /// One reading in one line: symbol tile, label and, at the right edge, the value. Where both do not fit, the
-/// label is shortened first: the value is what the line is read for.
+/// value has at least three fifths of the line: it is what the line is read for.
 class StatRow : public Element<StatRowFields> {
 public:
     explicit StatRow(QWidget* parent = nullptr) : StatRow(StatRowFields{}, parent) {}

@@ -39,7 +39,9 @@ int TextLabel::heightForWidth(int width) const {
 }
 
 void TextLabel::fieldsChanged() {
-    QSizePolicy policy(fields().wraps ? QSizePolicy::Ignored : QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // A fixed height would keep a wrapping text at one line.
+    QSizePolicy policy = fields().wraps ? QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum)
+                                        : QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     policy.setHeightForWidth(fields().wraps);
     if (sizePolicy() != policy) setSizePolicy(policy);
 }

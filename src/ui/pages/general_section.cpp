@@ -11,6 +11,13 @@ namespace {
 
 constexpr std::array<double, 4> intervals{1, 2, 5, 10};
 
+// Flag and code; only the code where no font has the flag.
+std::string shownLanguage(AppLanguage language, const QFont& font) {
+    const std::string text = pickerText(language);
+    if (canShow(QString::fromStdString(text), font)) return text;
+    return text.substr(text.rfind(' ') + 1);
+}
+
 class GeneralSection : public SettingsSection {
 public:
     GeneralSection(PanelContext& context, QWidget* parent)
@@ -32,7 +39,8 @@ private:
         picker->setObjectName(QStringLiteral("appLanguage"));
         addControl({.cs = "Jazyk", .en = "Language"}, picker);
         onRefresh([this, picker] {
-            picker->setLabels({pickerText(AppLanguage::cs), pickerText(AppLanguage::en)});
+            picker->setLabels(
+                {shownLanguage(AppLanguage::cs, font()), shownLanguage(AppLanguage::en, font())});
             picker->setChosen(static_cast<int>(context_.loc.language()));
         });
     }

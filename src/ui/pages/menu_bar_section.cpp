@@ -9,7 +9,7 @@
 namespace tarvo::ui {
 namespace {
 
-constexpr int tileColumns = 3;
+constexpr TileLayout tileLayout{3, 1};
 
 BoundTile tileOf(MenuBarModule module, std::string_view key, Color color) {
     return {key, symbolName(module), {label(module, AppLanguage::cs), label(module, AppLanguage::en)}, color};
@@ -32,7 +32,7 @@ public:
         : SettingsSection(context, {.cs = "MENU BAR", .en = "MENU BAR"}, parent) {
         addText(TextRole::sectionCaption,
                 [this] { return t({.cs = "CO ZOBRAZIT V LIŠTĚ", .en = "WHAT TO SHOW IN THE MENU BAR"}); });
-        addTileGrid(*this, context, moduleTiles(), tileColumns);
+        addTileGrid(*this, context, moduleTiles(), tileLayout);
         addText(TextRole::placeholder, [this] { return layoutCaption(); });
         addAppearance();
         addSwitch(keys::modularMenuBar, {.cs = "Modulární lišta", .en = "Modular Menu Bar"},

@@ -33,22 +33,22 @@ struct PanelContext {
     Published<std::optional<UpdateInfo>>* availableUpdate = nullptr;
     BluetoothBatteryMonitor* bluetoothBattery = nullptr;
     /// Stored samples of the last hours.
-    std::function<std::vector<HistorySample>(double lastHours)> historySamples;
+    std::function<std::vector<HistorySample>(double lastHours)> historySamples = {};
     /// When the newest stored sample was taken: tells whether a chart is out of date.
-    std::function<WallTime()> lastHistorySample;
+    std::function<WallTime()> lastHistorySample = {};
 
-    std::function<void()> openDetailWindow;
-    std::function<void()> quit;
-    std::function<void(const std::string& address)> openLink;
+    std::function<void()> openDetailWindow = {};
+    std::function<void()> quit = {};
+    std::function<void(const std::string& address)> openLink = {};
     /// Asks the user, then ends the process.
-    std::function<void(const ProcInfo&)> confirmKill;
+    std::function<void(const ProcInfo&)> confirmKill = {};
     /// Cards that live elsewhere, complete with their background; the parent takes them. Null: no card now.
-    std::function<QWidget*(QWidget* parent)> makeQuickActionsCard;
-    std::function<QWidget*(QWidget* parent)> makeAutomationsCard;
-    std::function<QWidget*(QWidget* parent)> makeAutomationsSettingsCard;
+    std::function<QWidget*(QWidget* parent)> makeQuickActionsCard = {};
+    std::function<QWidget*(QWidget* parent)> makeAutomationsCard = {};
+    std::function<QWidget*(QWidget* parent)> makeAutomationsSettingsCard = {};
     /// Whether the program starts with the session; absent functions leave the switch out.
-    std::function<bool()> launchesAtLogin;
-    std::function<void(bool)> setLaunchAtLogin;
+    std::function<bool()> launchesAtLogin = {};
+    std::function<void(bool)> setLaunchAtLogin = {};
 };
 
 } // namespace tarvo::ui

@@ -6,7 +6,7 @@
 namespace tarvo::ui {
 namespace {
 
-constexpr int tileColumns = 4;
+constexpr TileLayout tileLayout{4, 2};
 
 constexpr BoundTile backupTile(const LKey& label) {
     return {keys::showTimeMachine, "clock.arrow.circlepath", label, colors::green};
@@ -67,7 +67,7 @@ SettingsSection* makePanelSection(PanelContext& context, QWidget* parent) {
         new SettingsSection(context, {.cs = "V PANELU PO ROZKLIKNUTÍ", .en = "IN THE PANEL"}, parent);
     section->addCaption(
         {.cs = "Co se zobrazí, když na ikonku klikneš", .en = "What shows up when you click the icon"});
-    addTileGrid(*section, context, isMac ? macTiles : otherTiles, tileColumns);
+    addTileGrid(*section, context, isMac ? macTiles : otherTiles, tileLayout);
     section->addSwitch(keys::wifiSSIDEnabled,
                        {.cs = "Zobrazit název Wi-Fi sítě", .en = "Show Wi-Fi network name"},
                        isMac ? locationNote : networkServiceNote);

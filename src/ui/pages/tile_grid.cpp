@@ -23,16 +23,18 @@ ModuleToggleTile* makeTile(SettingsSection& section, PanelContext& context, cons
 } // namespace
 
 void addTileGrid(SettingsSection& section, PanelContext& context, std::span<const BoundTile> tiles,
-                 int columns) {
+                 TileLayout layout) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(metrics::tight);
     for (std::size_t index = 0; index < tiles.size(); ++index) {
         const int place = static_cast<int>(index);
-        grid->addWidget(makeTile(section, context, tiles[index]), place / columns, place % columns);
+        ModuleToggleTile* tile = makeTile(section, context, tiles[index]);
+        tile->setLabelLines(layout.labelLines);
+        grid->addWidget(tile, place / layout.columns, place % layout.columns);
     }
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < layout.columns; ++column)
         grid->setColumnStretch(column, 1);
     section.addWidget(box);
 }

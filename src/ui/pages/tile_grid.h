@@ -17,9 +17,14 @@ struct BoundTile {
     Color color;
 };
 
+struct TileLayout {
+    int columns = 3;
+    int labelLines = 1;
+};
+
 /// Adds a grid of tiles to the section; each is named after its key. The rows of the table stay where they
 /// are.
 void addTileGrid(SettingsSection& section, PanelContext& context, std::span<const BoundTile> tiles,
-                 int columns);
+                 TileLayout layout);
 
 } // namespace tarvo::ui

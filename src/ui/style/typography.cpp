@@ -1,8 +1,11 @@
 #include "ui/style/typography.h"
 
+#include <QGlyphRun>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTextLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace tarvo::ui {
@@ -64,6 +67,17 @@ QFont textFont(TextRole role, const QFont& base) {
     font.setPointSizeF(textSize(role) * pointsPerPixel());
     font.setWeight(styles[static_cast<std::size_t>(role)].weight);
     return font;
+}
+
+bool canShow(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const auto runs = layout.glyphRuns();
+    return std::none_of(runs.begin(), runs.end(), [](const QGlyphRun& run) {
+        return run.glyphIndexes().contains(0); // the picture of a missing character
+    });
 }
 
 } // namespace tarvo::ui

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QString>
 
 namespace tarvo::ui {
 
@@ -34,5 +35,8 @@ double textSize(TextRole role);
 
 /// The desktop's font in the size and weight of the role.
 QFont textFont(TextRole role, const QFont& base);
+
+/// Whether every character of the text has a picture in the font or in one that stands in for it.
+bool canShow(const QString& text, const QFont& font);
 
 } // namespace tarvo::ui

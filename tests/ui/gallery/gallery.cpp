@@ -14,6 +14,8 @@
 #include "ui/elements/stat_row.h"
 #include "ui/elements/temp_bar.h"
 #include "ui/elements/text_label.h"
+#include "ui/pages/popover_view.h"
+#include "ui/panel_fixture.h"
 #include "ui/style/accent.h"
 #include "ui/style/metrics.h"
 
@@ -151,6 +153,51 @@ struct Look {
     QPalette palette;
 };
 
+struct Scene {
+    const char* name;
+    StatsSnapshot snapshot;
+    AppLanguage language;
+    bool settings;
+    int height;
+};
+
+void drawPage(const QDir& folder, const Scene& scene, const Look& look, int scale) {
+    PanelParts parts;
+    parts.showEverything();
+    parts.store.set(keys::wifiSSIDEnabled, true);
+    parts.loc.setLanguage(scene.language);
+    parts.history = samples(HistoryRange::day);
+    parts.publish(scene.snapshot);
+    parts.model->publishedCPUHistory().set(wave(60, 40, 25));
+    parts.model->publishedMemHistory().set(wave(60, 61, 2));
+    parts.update.set(UpdateInfo{"2.0", "https://example.org", std::nullopt});
+    PopoverView view(parts.context());
+    view.setPalette(look.palette);
+    view.setShowSettings(scene.settings);
+    const QSize size(360, scene.height);
+    painted(view, size);
+    const QImage image = painted(view, size, scale, look.palette.color(QPalette::Window));
+    image.save(folder.filePath(QStringLiteral("%1-%2-%3.png")
+                                   .arg(QLatin1String(scene.name), QLatin1String(look.name))
+                                   .arg(scale * 100)));
+}
+
+void drawPages(const QDir& folder) {
+    const Look light{"light", lightPalette()};
+    const Look dark{"dark", darkPalette()};
+    const Scene scenes[] = {{"popover-en", laptopSnapshot(), AppLanguage::en, false, 1900},
+                            {"popover-cs", laptopSnapshot(), AppLanguage::cs, false, 1900},
+                            {"popover-empty", {}, AppLanguage::en, false, 1500},
+                            {"popover-extreme", extremeSnapshot(), AppLanguage::cs, false, 2400},
+                            {"settings-en", {}, AppLanguage::en, true, 1500},
+                            {"settings-cs", {}, AppLanguage::cs, true, 1500}};
+    for (const Scene& scene : scenes) {
+        for (const Look& look : {light, dark})
+            drawPage(folder, scene, look, 1);
+        drawPage(folder, scene, light, 2);
+    }
+}
+
 void drawSheets(const QDir& folder) {
     AppIconCache icons({});
     MemoryPreferenceStore store;
@@ -175,6 +222,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     if (argc != 2) return 2;
-    tarvo::ui::drawSheets(QDir(QString::fromLocal8Bit(argv[1])));
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    tarvo::ui::drawSheets(folder);
+    tarvo::ui::drawPages(folder);
     return 0;
 }

@@ -185,6 +185,7 @@ TEST_F(StatsPageTest, DoesNothingWhileItIsHidden) {
 
 TEST_F(StatsPageTest, PaintsNothingWithoutAChangedValue) {
     open();
+    settle();
     const PaintCounter counter(*page);
     parts.publish(laptopSnapshot());
     settle();

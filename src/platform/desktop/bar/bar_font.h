@@ -24,7 +24,7 @@ public:
     void draw(QPainter& painter, QPointF origin, const QString& text) const;
     double ascent() const { return metrics_.ascent(); }
     double descent() const { return metrics_.descent(); }
-    double digitWidth() const { return digitWidth_; }
+    double capHeight() const { return metrics_.capHeight(); }
     bool canShow(char32_t character) const { return metrics_.inFontUcs4(character); }
 
 private:

@@ -17,6 +17,6 @@ struct BarItemGeometry {
 
 /// `image` and `title` are empty where the item has none; `reservedTitleWidth` is at least the title's.
 BarItemGeometry layoutBarItem(const QSizeF& image, const QSizeF& title, double reservedTitleWidth,
-                              bool centred);
+                              bool centred, int height);
 
 } // namespace tarvo::desktop

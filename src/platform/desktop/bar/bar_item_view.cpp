@@ -1,21 +1,15 @@
 #include "platform/desktop/bar/bar_item_view.h"
 
-#include "platform/desktop/bar/line_drawing_painter.h"
-#include "platform/desktop/system_palette.h"
-
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextDocument>
 
-#include <cmath>
 #include <optional>
 
 namespace tarvo::desktop {
 
 namespace {
-
-constexpr double symbolSide = 15;
 
 std::optional<StatusClick> clickOf(Qt::MouseButton button) {
     if (button == Qt::LeftButton) return StatusClick::left;
@@ -23,10 +17,16 @@ std::optional<StatusClick> clickOf(Qt::MouseButton button) {
     return std::nullopt;
 }
 
+/// Tool tips are rich text wherever they look like it.
+QString toolTipText(const std::string& plain) {
+    const QString text = QString::fromStdString(plain);
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
 } // namespace
 
 BarItemView::BarItemView(StatusItemModel& model, BarFonts& fonts, SymbolImages& symbols, QWidget* parent)
-    : QWidget(parent), model_(&model), fonts_(fonts), symbols_(symbols) {
+    : QWidget(parent), model_(&model), face_(fonts, symbols) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     toolTipChanged();
 }
@@ -39,84 +39,37 @@ void BarItemView::faceChanged() {
 }
 
 void BarItemView::toolTipChanged() {
-    const QString text = QString::fromStdString(model_->content().toolTip);
-    setToolTip(Qt::mightBeRichText(text) ? text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"))
-                                         : text);
+    setToolTip(toolTipText(model_->content().toolTip));
 }
 
-int BarItemView::wantedWidth() {
-    if (needsLayout_) layOut();
-    return geometry_.width;
-}
-
-bool BarItemView::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest && model_ && wantedWidth() != width()) emit widthChanged();
-    if (event->type() == QEvent::PaletteChange) update();
-    return QWidget::event(event);
-}
-
-void BarItemView::fontsChanged() {
-    reserved_ = {};
-    title_ = {};
-    needsLayout_ = false;
+void BarItemView::forgetFonts() {
+    face_.forgetFonts();
     faceChanged();
 }
 
-void BarItemView::layOut() {
+int BarItemView::wantedWidth() {
+    layOutIfNeeded();
+    return face_.width();
+}
+
+void BarItemView::layOutIfNeeded() {
+    if (!needsLayout_ || !model_) return;
     needsLayout_ = false;
-    const StatusItemContent& content = model_->content();
-    title_ = layoutTitle(content.title, content.font, fonts_);
-    const double reserved = reserved_.fit(content.title, title_, content.font, fonts_);
-    geometry_ = layoutBarItem(imageSize(), title_.size, reserved, content.title.centred);
+    face_.layOut(model_->content(), barHeight);
 }
 
-QSizeF BarItemView::imageSize() const {
-    if (std::holds_alternative<SymbolImage>(model_->content().image)) return {symbolSide, symbolSide};
-    if (const auto* drawing = std::get_if<LineDrawing>(&model_->content().image)) {
-        return {drawing->width, drawing->height};
-    }
-    return {};
-}
-
-QColor BarItemView::foreground() const {
-    return systemColor(model_->content().tint.value_or(SystemColor::label), palette());
+bool BarItemView::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest && wantedWidth() != width()) emit widthChanged();
+    if (event->type() == QEvent::PaletteChange) update();
+    return QWidget::event(event);
 }
 
 void BarItemView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
     if (!model_) return;
-    if (needsLayout_) layOut();
-    paintImage(painter);
-    paintTitle(painter);
-}
-
-void BarItemView::paintImage(QPainter& painter) {
-    const StatusImage& image = model_->content().image;
-    if (const auto* symbol = std::get_if<SymbolImage>(&image)) {
-        paintSymbol(painter, symbol->name, geometry_.image, foreground());
-    } else if (const auto* drawing = std::get_if<LineDrawing>(&image)) {
-        paintLineDrawing(painter, geometry_.image.topLeft(), *drawing, palette());
-    }
-}
-
-void BarItemView::paintTitle(QPainter& painter) {
-    for (const TitlePiece& piece : title_.pieces) {
-        const QColor color = piece.color ? systemColor(*piece.color, palette()) : foreground();
-        const QPointF origin = geometry_.title + piece.origin;
-        if (!piece.symbol.empty()) {
-            const double top = origin.y() - std::round((piece.width + piece.font->ascent()) / 2) + 1;
-            paintSymbol(painter, piece.symbol, {origin.x(), top, piece.width, piece.width}, color);
-            continue;
-        }
-        painter.setPen(color);
-        piece.font->draw(painter, origin, piece.text);
-    }
-}
-
-void BarItemView::paintSymbol(QPainter& painter, const std::string& name, const QRectF& place,
-                              const QColor& color) {
-    painter.drawImage(place.topLeft(), symbols_.image(name, place.width(), devicePixelRatioF(), color));
+    layOutIfNeeded();
+    face_.paint(painter, model_->content(), palette());
 }
 
 // Accepting the press is what brings the release.

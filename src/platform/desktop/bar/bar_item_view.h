@@ -1,9 +1,7 @@
 #pragma once
 
-#include "platform/desktop/bar/bar_item_geometry.h"
-#include "platform/desktop/bar/title_layout.h"
+#include "platform/desktop/bar/item_face.h"
 #include "platform/desktop/status_bar_host.h"
-#include "platform/desktop/symbols/symbol_images.h"
 
 #include <QWidget>
 
@@ -19,11 +17,11 @@ public:
 
     /// The item is gone: the view shows nothing any more.
     void forgetModel() { model_ = nullptr; }
-    /// The fonts changed: earlier measures no longer hold.
-    void fontsChanged();
     /// The content changed: to be laid out and painted again in this turn of the loop.
     void faceChanged();
     void toolTipChanged();
+    /// To be called before the fonts end that the view was laid out with.
+    void forgetFonts();
     int wantedWidth();
 
 signals:
@@ -37,19 +35,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void layOut();
-    QSizeF imageSize() const;
-    QColor foreground() const;
-    void paintImage(QPainter& painter);
-    void paintTitle(QPainter& painter);
-    void paintSymbol(QPainter& painter, const std::string& name, const QRectF& place, const QColor& color);
+    void layOutIfNeeded();
 
     StatusItemModel* model_;
-    BarFonts& fonts_;
-    SymbolImages& symbols_;
-    ReservedWidth reserved_;
-    TitleLayout title_;
-    BarItemGeometry geometry_;
+    ItemFace face_;
     bool needsLayout_ = true;
 };
 

@@ -51,7 +51,7 @@ void BarWindow::arrange() {
 
 void BarWindow::forgetFonts() {
     for (BarItemView* view : views_)
-        view->fontsChanged();
+        view->forgetFonts();
 }
 
 void BarWindow::paintEvent(QPaintEvent*) {

@@ -1,0 +1,68 @@
+#include "platform/desktop/tray/tray_item.h"
+
+#include "platform/desktop/status_menu.h"
+#include "platform/desktop/tray/status_notifier_names.h"
+
+#include <QCursor>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QUuid>
+
+#include <utility>
+
+namespace tarvo::desktop {
+
+namespace {
+
+constexpr int timeoutMilliseconds = 5000;
+const QString itemPath = QStringLiteral("/StatusNotifierItem");
+
+} // namespace
+
+TrayItem::TrayItem(StatusItemModel& model, const QString& id, TrayTraits traits, BarFonts& fonts,
+                   SymbolImages& symbols, std::function<void(TrayItem&)> removed)
+    : connectionName_(QUuid::createUuid().toString()), removed_(std::move(removed)),
+      notifier_(new StatusNotifierItem(&exported_, model, id, traits, fonts, symbols)) {
+    new DBusMenu(&exported_, [&model] { return model.contextMenu(); });
+}
+
+TrayItem::~TrayItem() {
+    if (isExported_) QDBusConnection::disconnectFromBus(connectionName_);
+    removed_(*this);
+}
+
+// One object serves both interfaces, under two paths.
+void TrayItem::exportTo(QDBusConnection bus) {
+    isExported_ =
+        bus.registerObject(itemPath, &exported_) && bus.registerObject(notifier_->menu().path(), &exported_);
+}
+
+void TrayItem::registerItem(std::function<void()> done) {
+    auto message =
+        QDBusMessage::createMethodCall(sni::watcherService, sni::watcherPath, sni::watcherInterface,
+                                       QStringLiteral("RegisterStatusNotifierItem"));
+    message.setAutoStartService(false);
+    message << itemPath;
+    const QDBusPendingCall call = QDBusConnection(connectionName_).asyncCall(message, timeoutMilliseconds);
+    auto* pending = new QDBusPendingCallWatcher(call, &exported_);
+    QObject::connect(pending, &QDBusPendingCallWatcher::finished, &exported_,
+                     [pending, done = std::move(done)] {
+                         pending->deleteLater();
+                         done();
+                     });
+}
+
+void TrayItem::changed(StatusItemPart part) {
+    if (part == StatusItemPart::toolTip) {
+        notifier_->toolTipChanged();
+    } else {
+        notifier_->faceChanged();
+    }
+}
+
+// Reached only through hosts that do not open the menu themselves.
+void TrayItem::popUpMenu(const Menu& menu) {
+    (new StatusMenu(menu))->popup(QCursor::pos());
+}
+
+} // namespace tarvo::desktop

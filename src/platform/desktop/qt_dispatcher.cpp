@@ -8,18 +8,6 @@ namespace tarvo::desktop {
 
 namespace {
 
-class PoolQueue : public SerialQueue {
-public:
-    explicit PoolQueue(const std::string& label) {
-        pool_.setObjectName(QString::fromStdString(label));
-        pool_.setMaxThreadCount(1);
-    }
-    void async(Task task) override { pool_.start(std::move(task)); }
-
-private:
-    QThreadPool pool_;
-};
-
 class RepeatingTimer : public Timer {
 public:
     RepeatingTimer(std::chrono::milliseconds period, Task task) {
@@ -38,9 +26,6 @@ private:
 
 } // namespace
 
-QtDispatcher::QtDispatcher() = default;
-QtDispatcher::~QtDispatcher() = default;
-
 void QtDispatcher::async(Task task) {
     QMetaObject::invokeMethod(&main_, std::move(task), Qt::QueuedConnection);
 }
@@ -49,12 +34,12 @@ void QtDispatcher::after(std::chrono::milliseconds delay, Task task) {
     QTimer::singleShot(delay, Qt::CoarseTimer, &main_, std::move(task));
 }
 
-void QtDispatcher::global(QualityOfService quality, Task task) {
-    global_.start(std::move(task), quality == QualityOfService::userInitiated ? 1 : 0);
+void QtDispatcher::global(QualityOfService, Task task) {
+    background_.global(std::move(task));
 }
 
-std::unique_ptr<SerialQueue> QtDispatcher::makeSerialQueue(const std::string& label) {
-    return std::make_unique<PoolQueue>(label);
+std::unique_ptr<SerialQueue> QtDispatcher::makeSerialQueue(const std::string&) {
+    return background_.makeSerialQueue();
 }
 
 std::unique_ptr<Timer> QtDispatcher::repeat(std::chrono::milliseconds period, Task task) {

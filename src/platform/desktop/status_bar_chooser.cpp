@@ -58,6 +58,7 @@ void StatusBarChooser::moveAll(StatusBarKind kind) {
         item->moveTo(*next);
     host_ = std::move(next);
     kind_ = kind;
+    if (hostChanged) hostChanged();
 }
 
 std::unique_ptr<StatusBarHost> StatusBarChooser::makeHost(StatusBarKind kind) {

@@ -34,10 +34,14 @@ public:
     ~StatusBarChooser() override;
 
     std::unique_ptr<StatusItem> makeItem() override;
+    bool tellsPlaces() const override { return host_->tellsPlaces(); }
 
     /// To be called when the wish may have changed.
     void wishChanged() { choose(); }
     StatusBarKind kind() const { return kind_; }
+
+    /// Called after the items moved to another host.
+    std::function<void()> hostChanged;
 
 private:
     void trayChanged();

@@ -49,6 +49,8 @@ public:
 class StatusBarHost {
 public:
     virtual ~StatusBarHost() = default;
+    /// True where items know their place on the screen.
+    virtual bool tellsPlaces() const { return false; }
     /// The model outlives the item.
     virtual std::unique_ptr<HostedItem> realise(StatusItemModel& model) = 0;
 };

@@ -41,6 +41,7 @@ public:
         (new StatusMenu(menu, &window_))->popup(view_->mapToGlobal(QPoint(0, view_->height())));
     }
     std::optional<Rect> screenRect() const override {
+        if (!window_.knowsItsPlace()) return std::nullopt;
         const QPoint corner = view_->mapToGlobal(QPoint(0, 0));
         return Rect{static_cast<double>(corner.x()), static_cast<double>(corner.y()),
                     static_cast<double>(view_->width()), static_cast<double>(view_->height())};

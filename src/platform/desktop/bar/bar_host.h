@@ -22,6 +22,7 @@ public:
     BarHost(SymbolImages& symbols, std::function<void()> closedByUser);
     ~BarHost() override;
 
+    bool tellsPlaces() const override { return docks_; }
     std::unique_ptr<HostedItem> realise(StatusItemModel& model) override;
     const BarWindow& window() const { return *window_; }
 

@@ -19,6 +19,8 @@ public:
 
     explicit BarWindow(Kind kind);
 
+    /// Ordinary windows are put where the desktop likes, which not every desktop tells.
+    bool knowsItsPlace() const { return kind_ == Kind::dock; }
     void add(BarItemView& view);
     void remove(BarItemView& view);
     /// Gives every item its place.

@@ -35,7 +35,7 @@ public slots:
                                                               const QStringList& propertyNames);
     QDBusVariant GetProperty(int id, const QString& name);
     void Event(int id, const QString& eventId, const QDBusVariant& data, uint timestamp);
-    QList<int> EventGroup(const tarvo::desktop::MenuEvents& events);
+    QList<int> EventGroup(const QList<tarvo::desktop::MenuEvent>& events);
     bool AboutToShow(int id);
     QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& idErrors);
 

@@ -42,6 +42,8 @@ inline constexpr std::string_view showBluetoothBattery = "show.bluetoothBattery"
 inline constexpr std::string_view appLanguage = "appLanguage";         ///< text; see LocalizationManager
 inline constexpr std::string_view customShortcuts = "customShortcuts"; ///< list of texts, empty until written
 inline constexpr std::string_view lastUpdateCheck = "lastUpdateCheck"; ///< date, absent until written
+inline constexpr std::string_view statusBarHost =
+    "statusBarHost"; ///< "auto", "tray" or "bar"; auto until written
 
 } // namespace tarvo::keys
 

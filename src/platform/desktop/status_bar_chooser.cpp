@@ -1,9 +1,27 @@
 #include "platform/desktop/status_bar_chooser.h"
 
+#include "platform/desktop/logging.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace tarvo::desktop {
+
+namespace {
+
+const char* nameOf(StatusBarKind kind) {
+    switch (kind) {
+    case StatusBarKind::none:
+        return "none";
+    case StatusBarKind::tray:
+        return "tray";
+    case StatusBarKind::bar:
+        return "bar";
+    }
+    return "";
+}
+
+} // namespace
 
 StatusBarChooser::StatusBarChooser(TrayWatcher& watcher, StatusBarHosts hosts, Dispatcher& dispatcher,
                                    std::function<StatusBarWish()> wish)
@@ -58,6 +76,7 @@ void StatusBarChooser::moveAll(StatusBarKind kind) {
         item->moveTo(*next);
     host_ = std::move(next);
     kind_ = kind;
+    qCDebug(statusBarLog) << "host" << nameOf(kind) << trayProcess_.c_str();
     if (hostChanged) hostChanged();
 }
 

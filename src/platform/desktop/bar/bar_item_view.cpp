@@ -1,5 +1,7 @@
 #include "platform/desktop/bar/bar_item_view.h"
 
+#include "platform/desktop/logging.h"
+
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -70,6 +72,7 @@ void BarItemView::paintEvent(QPaintEvent*) {
     if (!model_) return;
     layOutIfNeeded();
     face_.paint(painter, model_->content(), palette());
+    qCDebug(statusBarLog) << "painted" << QString::fromStdString(plainText(model_->content().title));
 }
 
 // Accepting the press is what brings the release.

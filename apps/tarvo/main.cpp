@@ -1,0 +1,50 @@
+#include "command_line.h"
+#include "platform/desktop/display_check.h"
+#include "program.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace {
+
+using namespace tarvo;
+
+constexpr int usageStatus = 2;
+constexpr int displayStatus = 1;
+
+int runProgram(int argumentCount, char** arguments, const ProgramOptions& options) {
+    if (const auto missing = desktop::missingDisplay()) {
+        fmt::print(stderr, "tarvo: {}\n", *missing);
+        return displayStatus;
+    }
+    desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION);
+    Program program(application, options);
+    const int status = program.run();
+    if (!program.finish()) std::_Exit(status);
+    return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    const std::vector<std::string_view> given(arguments + 1, arguments + argumentCount);
+    const CommandLine line = parseCommandLine(given);
+    if (const auto* options = std::get_if<ProgramOptions>(&line)) {
+        return runProgram(argumentCount, arguments, *options);
+    }
+    if (const auto* error = std::get_if<UsageError>(&line)) {
+        fmt::print(stderr, "tarvo: {}\nTry 'tarvo --help'.\n", error->message);
+        return usageStatus;
+    }
+    if (std::holds_alternative<ShowVersion>(line)) {
+        fmt::print("tarvo {}\n", TARVO_VERSION);
+    } else {
+        fmt::print("{}", helpText());
+    }
+    return 0;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "command_line.h"
+#include "composition/machine.h"
+#include "core/notification_center.h"
+#include "core/settings.h"
+#include "core/shared_instance.h"
+#include "core/stats_model.h"
+#include "localization/localization_manager.h"
+#include "menubar/app_delegate.h"
+#include "platform/desktop/desktop_status_bar.h"
+#include "platform/desktop/preference_file_watcher.h"
+#include "platform/desktop/qt_application.h"
+#include "platform/desktop/qt_dispatcher.h"
+#include "platform/desktop/symbols/symbol_images.h"
+#include "platform/desktop/termination_signals.h"
+#include "platform/linux/preference_file.h"
+#include "platform/posix/system_clock.h"
+
+#include <memory>
+
+namespace tarvo {
+
+/// Everything the desktop program is made of, in the order in which it is made. One object; main thread only.
+class Program {
+public:
+    /// The application outlives the program.
+    Program(desktop::QtApplication& application, const ProgramOptions& options);
+
+    /// Launches, runs until the user, the session or a signal ends it, and writes what is not saved. The exit
+    /// status.
+    int run();
+    /// False when background work hangs: then the process is to end without destroying the program.
+    bool finish();
+
+private:
+    desktop::DesktopStatusBar::Needs statusBarNeeds();
+    AppServices appServices();
+    void preferencesChanged();
+    void preferencesChangedElsewhere();
+    void followLanguage();
+
+    desktop::QtApplication& application_;
+    SystemClock clock_;
+    desktop::QtDispatcher dispatcher_;
+    linux_platform::PreferenceFile preferences_;
+    Settings settings_;
+    SharedInstance<Settings> sharedSettings_;
+    NotificationCenter notificationCenter_;
+    LocalizationManager localization_;
+    SharedInstance<LocalizationManager> sharedLocalization_;
+    Machine machine_;
+    std::shared_ptr<StatsModel> model_;
+    desktop::SymbolImages symbols_;
+    desktop::DesktopStatusBar statusBar_;
+    std::shared_ptr<AppDelegate> delegate_;
+    Subscription preferenceSubscription_;
+    desktop::PreferenceFileWatcher preferenceWatcher_;
+    desktop::TerminationSignals signals_;
+};
+
+} // namespace tarvo

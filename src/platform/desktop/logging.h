@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+namespace tarvo::desktop {
+
+/// What the status bar shows and where, for people who look for a fault and for tests. Silent unless asked
+/// for with QT_LOGGING_RULES="tarvo.*=true".
+Q_DECLARE_LOGGING_CATEGORY(statusBarLog)
+
+} // namespace tarvo::desktop

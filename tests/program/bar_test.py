@@ -1,0 +1,95 @@
+"""The program's own bar on a real X server."""
+import re
+import unittest
+
+from support.case import ProgramCase
+from support.program import write_preferences
+from support.waiting import wait_for
+
+WIDTH = 1280
+BAR = f"{WIDTH}x26+0+0"
+
+
+class Bar(ProgramCase):
+    def start_bar(self, preferences=None, **environment):
+        program = self.start(preferences, TARVO_STATUS_BAR="bar", **environment)
+        program.wait_for_window("DOCK")
+        return program
+
+    def property(self, window, name):
+        return self.session.run("xprop", "-id", window, name)
+
+    def test_is_a_dock_that_reserves_its_strip_and_has_no_taskbar_entry(self):
+        program = self.start_bar()
+        dock = program.wait_for_window("DOCK")
+        self.assertIn("= 0, 0, 26, 0, 0, 0, 0, 0, 0, 1279, 0, 0", self.property(dock, "_NET_WM_STRUT_PARTIAL"))
+        self.assertIn("SKIP_TASKBAR", self.property(dock, "_NET_WM_STATE"))
+        self.assertIn("4294967295", self.property(dock, "_NET_WM_DESKTOP"))
+        geometry = self.session.run("xdotool", "getwindowgeometry", "--shell", dock)
+        self.assertIn("X=0\nY=0\nWIDTH=1280\nHEIGHT=26", geometry)
+        wait_for(lambda: "0, 26, 1280, 694" in self.session.run("xprop", "-root", "_NET_WORKAREA"), "the work area")
+
+    def test_shows_the_text_line(self):
+        program = self.start_bar()
+        program.wait_for_painted("CPU 23% · RAM 48%")
+        self.picture("bar-text", crop=BAR)
+
+    def test_shows_the_graph(self):
+        program = self.start_bar({"menuBarStyle": 1})
+        for _ in range(6):
+            mark = program.mark()
+            self.machine.cpu = (self.machine.cpu + 31) % 100
+            program.wait_for_painted("", after=mark)
+        self.picture("bar-graph", crop=BAR)
+
+    def test_shows_the_icon(self):
+        program = self.start_bar({"menuBarStyle": 2})
+        program.wait_for_painted("")
+        self.picture("bar-icon", crop=BAR)
+
+    def test_shows_an_item_for_each_module(self):
+        program = self.start_bar({"modularMenuBar": True, "menubar.network": True})
+        program.wait_for_painted("23%")
+        program.wait_for_painted("48%")
+        program.wait_for_painted("0.0 B/s")
+        self.picture("bar-modular", crop=BAR)
+
+    def test_shows_stacked_labels_in_both_languages(self):
+        program = self.start_bar({"modularMenuBar": True, "stackedModularLabels": True, "menubar.network": True,
+                                  "appLanguage": "cs"})
+        program.wait_for_painted("PAMĚŤ\n48%")
+        self.picture("bar-stacked-cs", crop=BAR)
+        mark = program.mark()
+        write_preferences(self.session, {"refreshInterval": 1.0, "modularMenuBar": True,
+                                         "stackedModularLabels": True, "menubar.network": True,
+                                         "appLanguage": "en"})
+        program.wait_for_painted("MEMORY\n48%", after=mark)
+        self.picture("bar-stacked-en", crop=BAR)
+
+    def test_notices_preferences_that_another_program_writes(self):
+        program = self.start_bar()
+        program.wait_for_painted("CPU 23% · RAM 48%")
+        mark = program.mark()
+        write_preferences(self.session, {"refreshInterval": 1.0, "menubar.cpu": False})
+        program.wait_for_painted("RAM 48%", after=mark)
+
+    def test_paints_nothing_while_nothing_changes(self):
+        program = self.start_bar()
+        program.wait_for_painted("CPU 23% · RAM 48%")
+        mark = program.mark()
+        self.machine.set_memory(50)
+        program.wait_for_painted("CPU 23% · RAM 50%", after=mark)
+        painted = re.findall("painted", program.log()[mark:])
+        self.assertLessEqual(len(painted), 2, program.log())
+
+    def test_stands_below_another_dock(self):
+        self.session.start("xfce4-panel", "--disable-wm-check")
+        wait_for(lambda: "0, 26, 1280" in self.session.run("xprop", "-root", "_NET_WORKAREA"), "the panel's strip")
+        program = self.start_bar()
+        dock = program.wait_for_window("DOCK")
+        geometry = self.session.run("xdotool", "getwindowgeometry", "--shell", dock)
+        self.assertIn("Y=26", geometry)
+
+
+if __name__ == "__main__":
+    unittest.main()

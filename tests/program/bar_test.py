@@ -1,5 +1,6 @@
 """The program's own bar on a real X server."""
 import re
+import signal
 import unittest
 
 from support.case import ProgramCase
@@ -82,13 +83,19 @@ class Bar(ProgramCase):
         painted = re.findall("painted", program.log()[mark:])
         self.assertLessEqual(len(painted), 2, program.log())
 
-    def test_stands_below_another_dock(self):
-        self.session.start("xfce4-panel", "--disable-wm-check")
-        wait_for(lambda: "0, 26, 1280" in self.session.run("xprop", "-root", "_NET_WORKAREA"), "the panel's strip")
+    def test_ends_with_status_0_when_it_is_asked_to(self):
+        for number in (signal.SIGTERM, signal.SIGINT):
+            program = self.start_bar()
+            self.assertEqual(program.terminate(number), 0)
+
+    def test_quit_in_the_menu_ends_the_program(self):
         program = self.start_bar()
-        dock = program.wait_for_window("DOCK")
-        geometry = self.session.run("xdotool", "getwindowgeometry", "--shell", dock)
-        self.assertIn("Y=26", geometry)
+        program.wait_for_painted("CPU 23% · RAM 48%")
+        self.click(WIDTH - 40, 13, 3)
+        program.wait_for_window("NORMAL")  # the menu; nothing else is open
+        self.picture("bar-menu", crop="400x120+880+0")
+        self.press("q")
+        self.assertEqual(program.wait_for_end(), 0)
 
 
 if __name__ == "__main__":

@@ -66,7 +66,12 @@ class Tarvo:
                 if kind in self.session.run("xprop", "-id", window, "_NET_WM_WINDOW_TYPE")]
 
     def wait_for_window(self, kind):
-        return wait_for(lambda: self.alive() and self.windows(kind), f"a window of type {kind}")[0]
+        return wait_for(lambda: self.alive() and self._nudge() and self.windows(kind), f"a window of type {kind}")[0]
+
+    # A window manager that has only just started may leave a request in its queue until something else happens.
+    def _nudge(self):
+        self.session.run("xprop", "-root", "-f", "_TARVO_NUDGE", "32c", "-set", "_TARVO_NUDGE", "1")
+        return True
 
 
 def preference_path(session):

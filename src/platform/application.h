@@ -32,7 +32,8 @@ struct WindowOptions {
     int minimumWidth = 0, minimumHeight = 0; ///< content size
 };
 
-/// Makes a window, centred on the screen; `willClose` runs when the user closes it and may destroy the window.
+/// Makes a window, centred on the screen; `willClose` runs when the user closes it and may destroy the
+/// window.
 using WindowFactory =
     std::function<std::unique_ptr<Window>(const WindowOptions&, std::function<void()> willClose)>;
 

@@ -1,6 +1,7 @@
 #include "composition/machine.h"
 
 #include "composition/process_sources.h"
+#include "platform/linux/backup_sources.h"
 #include "platform/linux/linux_gpus.h"
 #include "platform/linux/linux_host_statistics.h"
 #include "platform/linux/linux_io_registry.h"
@@ -12,6 +13,7 @@
 #include "platform/linux/root.h"
 #include "platform/linux/system_battery.h"
 #include "platform/linux/virtual_smc.h"
+#include "platform/posix/posix_child_processes.h"
 #include "processes/network_processes.h"
 #include "processes/process_list.h"
 #include "readers/cpu_monitor.h"
@@ -26,6 +28,7 @@
 #include "readers/wifi_info.h"
 #include "sensors/battery_reader.h"
 #include "sensors/sensor_monitor.h"
+#include "sensors/time_machine.h"
 
 #include <optional>
 #include <utility>
@@ -39,7 +42,8 @@ struct Machine::Parts {
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
           host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
           disks(root), gpus(root, clock, nvidia()), volumes(root, clock), wifiClient(root), wifi(wifiClient),
-          battery(root, dispatcher), processes(root, clock) {
+          battery(root, dispatcher), backups(makeLinuxBackups(root, processEnvironment, clock, liveTools())),
+          processes(root, clock) {
         registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
         registry.provide("IOAccelerator", [this] { return gpus.services(); });
         registry.provide("AppleSmartBattery", [this] { return battery.registryEntries(); });
@@ -51,6 +55,9 @@ struct Machine::Parts {
         csmc_use_client(smc);
         sensors.emplace();
     }
+
+    // Tools answer for the running machine only.
+    ChildProcesses* liveTools() { return root.isLive() ? &tools : nullptr; }
 
     // The library answers for the running machine only.
     NVIDIAUtilization nvidia() {
@@ -77,6 +84,8 @@ struct Machine::Parts {
     LinuxWiFiClient wifiClient;
     WiFiInfo wifi;
     SystemBattery battery;
+    POSIXChildProcesses tools;
+    std::unique_ptr<Backups> backups;
     std::shared_ptr<VirtualSMC> smc; ///< null when sensors are not read, as is the next
     std::optional<SensorMonitor> sensors;
     ProcessSources processes;
@@ -109,6 +118,7 @@ StatsReaders Machine::readers() {
     readers.topNetworkProcesses = [parts](std::int64_t limit) {
         return topNetworkProcesses(parts->processes.traffic, limit);
     };
+    readers.timeMachineInfo = [parts] { return readTimeMachineInfo(*parts->backups); };
     readers.sampleProcessDemand = [parts] { parts->processes.demand.sample(); };
     readers.currentSSID = [parts] { return parts->wifi.currentSSID(); };
     return readers;

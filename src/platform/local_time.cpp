@@ -46,18 +46,23 @@ std::optional<Fields> match(std::string_view text, std::string_view pattern) {
     return fields;
 }
 
-bool isReal(const Fields& fields) {
-    const auto date = std::chrono::year_month_day(std::chrono::year(fields.year),
-                                                  std::chrono::month(static_cast<unsigned>(fields.month)),
-                                                  std::chrono::day(static_cast<unsigned>(fields.day)));
-    return date.ok() && fields.hour < 24 && fields.minute < 60 && fields.second < 60;
+std::chrono::year_month_day dateOf(const Fields& fields) {
+    return {std::chrono::year(fields.year), std::chrono::month(static_cast<unsigned>(fields.month)),
+            std::chrono::day(static_cast<unsigned>(fields.day))};
+}
+
+/// Absent when the text differs from the pattern or names no real date.
+std::optional<Fields> parse(std::string_view text, std::string_view pattern) {
+    const auto fields = match(text, pattern);
+    if (!fields || !dateOf(*fields).ok()) return std::nullopt;
+    return fields->hour < 24 && fields->minute < 60 && fields->second < 60 ? fields : std::nullopt;
 }
 
 } // namespace
 
 std::optional<WallTime> parseLocalTime(std::string_view text, std::string_view pattern) {
-    const auto fields = match(text, pattern);
-    if (!fields || !isReal(*fields)) return std::nullopt;
+    const auto fields = parse(text, pattern);
+    if (!fields) return std::nullopt;
     std::tm local{};
     local.tm_year = fields->year - 1900;
     local.tm_mon = fields->month - 1;
@@ -70,6 +75,13 @@ std::optional<WallTime> parseLocalTime(std::string_view text, std::string_view p
     const auto moment = std::mktime(&local);
     if (local.tm_wday == -1) return std::nullopt;
     return std::chrono::system_clock::from_time_t(moment);
+}
+
+std::optional<WallTime> parseUniversalTime(std::string_view text, std::string_view pattern) {
+    const auto fields = parse(text, pattern);
+    if (!fields) return std::nullopt;
+    return std::chrono::sys_days(dateOf(*fields)) + std::chrono::hours(fields->hour) +
+           std::chrono::minutes(fields->minute) + std::chrono::seconds(fields->second);
 }
 
 } // namespace tarvo

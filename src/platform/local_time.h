@@ -12,4 +12,7 @@ namespace tarvo {
 /// differs from the pattern or names no real date. Independent of the locale.
 std::optional<WallTime> parseLocalTime(std::string_view text, std::string_view pattern);
 
+/// The same for a moment written in UTC.
+std::optional<WallTime> parseUniversalTime(std::string_view text, std::string_view pattern);
+
 } // namespace tarvo

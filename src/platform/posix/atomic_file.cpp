@@ -78,6 +78,7 @@ std::int64_t modifiedNanoseconds(const struct stat& status) {
 
 AtomicFile::AtomicFile(std::filesystem::path path, Durability durability)
     : path_(std::move(path)), temporaryPath_(path_), durability_(durability) {
+    if (path_.empty()) return;
     temporaryPath_ += ".new";
     createFolder(path_.parent_path());
 }
@@ -124,6 +125,7 @@ bool AtomicFile::replaceKeeping(std::string_view head, ContentRange kept, std::s
 }
 
 bool AtomicFile::replaceWith(std::span<iovec> pieces) {
+    if (path_.empty()) return false;
     const FileDescriptor file = openTemporary(temporaryPath_.c_str());
     if (!file) return false;
     if (!writeAll(file.get(), pieces)) {

@@ -23,7 +23,7 @@ public:
     };
 
     /// Creates the file's folder (mode 0700) with those above it; a failure shows in the later reads and
-    /// writes.
+    /// writes. An empty path is a file that can be neither read nor written.
     explicit AtomicFile(std::filesystem::path path, Durability durability = Durability::afterKill);
 
     std::optional<std::string> read(std::size_t limit) override;

@@ -213,6 +213,13 @@ TEST_F(AtomicFileTest, FailsQuietlyWithoutItsFolder) {
     EXPECT_FALSE(blocked.replace("new"));
 }
 
+TEST_F(AtomicFileTest, CannotBeWrittenWithoutAPath) {
+    AtomicFile nowhere{fs::path()};
+    EXPECT_FALSE(nowhere.replace("new"));
+    EXPECT_FALSE(nowhere.read(anySize));
+    EXPECT_FALSE(fs::exists(".new"));
+}
+
 // What a killed or a second process leaves beside the file
 
 TEST_F(AtomicFileTest, TakesAgainWhatAKilledProcessLeft) {

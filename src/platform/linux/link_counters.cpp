@@ -9,9 +9,11 @@ namespace tarvo::linux_platform {
 
 namespace {
 
+// "0x1003" and a line feed, read for every interface at every tick.
 std::optional<unsigned> parseFlags(std::optional<std::string_view> text) {
-    if (!text) return std::nullopt;
-    return parseHexadecimal<unsigned>(text->substr(0, text->find('\n')));
+    if (!text || text->size() < 3 || (*text)[0] != '0' || (*text)[1] != 'x') return std::nullopt;
+    if (text->back() == '\n') text->remove_suffix(1);
+    return parseHexadecimal<unsigned>(*text);
 }
 
 bool add(const LinkStatistics& statistics, LinkStatistics& sum) {

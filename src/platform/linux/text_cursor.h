@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/eight_characters.h"
+
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -18,7 +20,8 @@ public:
 
     /// Passes the text when it stands here.
     bool skip(std::string_view expected) {
-        if (!rest().starts_with(expected)) return false;
+        if (rest().size() < expected.size() || std::memcmp(at_, expected.data(), expected.size()) != 0)
+            return false;
         at_ += expected.size();
         return true;
     }
@@ -34,8 +37,7 @@ public:
     std::string_view field() {
         skipBlanks();
         const char* const begin = at_;
-        while (at_ != end_ && isInField(*at_))
-            ++at_;
+        skipField();
         return {begin, static_cast<std::size_t>(at_ - begin)};
     }
 
@@ -62,9 +64,27 @@ public:
     /// is passed but blanks.
     std::optional<std::uint64_t> number() {
         skipBlanks();
-        const char* digit = at_;
+        if (end_ - at_ <= EightCharacters::length) return longNumber(at_, 0);
+        const EightCharacters next(at_);
+        const auto digits = next.digits();
+        if (digits == EightCharacters::length) return longNumber(at_ + digits, next.value(digits));
+        if (digits == 0 || isInField(at_[digits])) return std::nullopt;
+        at_ += digits;
+        return next.value(digits);
+    }
+
+private:
+    static constexpr std::ptrdiff_t surelyFits = 19; ///< digits that every 64-bit number can hold
+
+    static bool isBlank(char character) { return character == ' ' || character == '\t'; }
+    /// One comparison a character: blanks, line feeds and control characters are all below what fields hold.
+    static bool isInField(char character) { return static_cast<unsigned char>(character) > ' '; }
+    /// 0 to 9 for a digit, more for anything else.
+    static unsigned unitOf(char character) { return static_cast<unsigned char>(character) - unsigned{'0'}; }
+
+    // A number whose digits up to `digit`, which are few enough, have the value so far.
+    std::optional<std::uint64_t> longNumber(const char* digit, std::uint64_t value) {
         const char* const safe = end_ - at_ > surelyFits ? at_ + surelyFits : end_;
-        std::uint64_t value = 0;
         for (; digit != safe && unitOf(*digit) <= 9; ++digit)
             value = value * 10 + unitOf(*digit);
         for (; digit != end_ && unitOf(*digit) <= 9; ++digit) {
@@ -76,14 +96,16 @@ public:
         return value;
     }
 
-private:
-    static constexpr std::ptrdiff_t surelyFits = 19; ///< digits that every 64-bit number can hold
+    void skipField() {
+        while (end_ - at_ >= EightCharacters::length) {
+            const auto count = EightCharacters(at_).aboveBlank();
+            at_ += count;
+            if (count < EightCharacters::length) return;
+        }
+        while (at_ != end_ && isInField(*at_))
+            ++at_;
+    }
 
-    static bool isBlank(char character) { return character == ' ' || character == '\t'; }
-    /// One comparison a character: blanks, line feeds and control characters are all below what fields hold.
-    static bool isInField(char character) { return static_cast<unsigned char>(character) > ' '; }
-    /// 0 to 9 for a digit, more for anything else.
-    static unsigned unitOf(char character) { return static_cast<unsigned char>(character) - unsigned{'0'}; }
     void skipBlanks() {
         while (at_ != end_ && isBlank(*at_))
             ++at_;

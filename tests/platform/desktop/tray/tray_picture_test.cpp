@@ -88,5 +88,13 @@ TEST(TrayTraits, KnowsWhatTraysDoWithAPicture) {
     EXPECT_EQ(trayTraits(""), TrayTraits{});
 }
 
+TEST(TrayTraits, RecognisesThePluginProcessOfXfcesPanel) {
+    for (const char* name : {"xfce4-panel", "panel-2-systray", "panel-14-systra", "panel-123-systr"})
+        EXPECT_TRUE(trayTraits(name).reversed) << name;
+    for (const char* name :
+         {"panel-2-clock", "panel-systray", "panel-2-sys", "panel-2", "panel-", "panel-14-systraz"})
+        EXPECT_EQ(trayTraits(name), TrayTraits{}) << name;
+}
+
 } // namespace
 } // namespace tarvo::desktop

@@ -1,6 +1,6 @@
 // Prints what the program knows of processes and sockets, a record a line, fields parted by tabs: for the
-// comparison with the system's tools and for the benchmarks. Usage: print_processes cpu|memory LIMIT |
-// connections | traffic
+// comparison with the system's tools and for the benchmarks. Usage: print_processes cpu|memory LIMIT
+// [SECONDS] | connections | traffic. With SECONDS the shares are those of a window of that length.
 
 #include "platform/linux/kernel_sockets.h"
 #include "platform/linux/linux_process_traffic.h"
@@ -13,6 +13,7 @@
 
 #include <fmt/format.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
@@ -23,10 +24,14 @@ namespace {
 using namespace tarvo;
 using namespace tarvo::linux_platform;
 
-void printProcesses(ProcessSort sortedBy, int limit) {
+void printProcesses(ProcessSort sortedBy, int limit, int seconds) {
     const SystemClock clock;
     ProcessSampler sampler(Root(), clock, [](auto time) { std::this_thread::sleep_for(time); });
     SampledProcessTable table(sampler);
+    if (seconds > 0) {
+        table.rows(ProcessOrder::cpu, 1);
+        std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    }
     for (const auto& process : topProcesses(table, sortedBy, limit))
         fmt::print("{}\t{:.1f}\t{:.2f}\t{}\n", process.pid, process.cpu, process.memPercent, process.name);
 }
@@ -52,8 +57,9 @@ int main(int count, char** arguments) {
         printConnections();
     } else if (what == "traffic") {
         printTraffic();
-    } else if ((what == "cpu" || what == "memory") && count == 3) {
-        printProcesses(what == "cpu" ? ProcessSort::cpu : ProcessSort::memory, std::atoi(arguments[2]));
+    } else if ((what == "cpu" || what == "memory") && (count == 3 || count == 4)) {
+        printProcesses(what == "cpu" ? ProcessSort::cpu : ProcessSort::memory, std::atoi(arguments[2]),
+                       count == 4 ? std::atoi(arguments[3]) : 0);
     } else {
         return EXIT_FAILURE;
     }

@@ -1,4 +1,5 @@
 """A desktop session for one test program: X server, window manager, message bus and folders of its own."""
+import json
 import os
 import shutil
 import signal
@@ -53,6 +54,19 @@ class Session:
         done = subprocess.run(command, env=self.environment | environment, stdin=subprocess.DEVNULL, check=False,
                               capture_output=True, text=True, timeout=60)
         return done.stdout
+
+    def bus_call(self, service, path, interface, method, signature="", *arguments):
+        """What a method on the session's bus returns; None when nobody answers. Starts no service."""
+        return self._bus("call", "--", service, path, interface, method, signature, *arguments)
+
+    def bus_property(self, service, path, interface, name):
+        """A property on the session's bus; None when nobody answers. Starts no service."""
+        return self._bus("get-property", "--", service, path, interface, name)
+
+    def _bus(self, *command):
+        printed = self.run("busctl", "--address=" + self.environment["DBUS_SESSION_BUS_ADDRESS"], "--json=short",
+                           "--auto-start=no", *command)
+        return json.loads(printed)["data"] if printed.strip() else None
 
     def stop(self, child):
         """Ends one process that was started here."""

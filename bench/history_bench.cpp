@@ -14,10 +14,13 @@
 #include <simdjson.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace tarvo {
 namespace {
@@ -96,11 +99,42 @@ void saveOurs(benchmark::State& state) {
         fortnight.clock.advance(60s);
         store.maybeRecord(23.076923076923077, 48.123456789012345, 51.5);
     }
-    if (store.samples().size() != static_cast<std::size_t>(minutes) + 1)
-        state.SkipWithError("not full");
+    if (store.samples().size() != static_cast<std::size_t>(minutes) + 1) state.SkipWithError("not full");
     state.counters["heapKiB"] = static_cast<double>(heap) / 1024;
 }
 BENCHMARK(saveOurs)->Name("save/tarvo, one new sample")->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+/// One of each in turn, so that both meet the same moments of the machine.
+void saveInTurn(benchmark::State& state) {
+    using Clock = std::chrono::steady_clock;
+    Fortnight fortnight;
+    AtomicFile file(fortnight.path);
+    HistoryStore store(file, fortnight.clock);
+    store.maybeRecord(23.076923076923077, 48.123456789012345, 51.5);
+    const auto plainPath = fortnight.path.parent_path() / "plain.json";
+    std::vector<double> plain, ours;
+    for (auto _ : state) {
+        fortnight.clock.advance(60s);
+        const auto start = Clock::now();
+        plainWriteAndRename(plainPath, fortnight.json, false);
+        const auto middle = Clock::now();
+        store.maybeRecord(23.076923076923077, 48.123456789012345, 51.5);
+        plain.push_back(Seconds(middle - start).count());
+        ours.push_back(Seconds(Clock::now() - middle).count());
+        state.SetIterationTime(ours.back());
+    }
+    const auto median = [](std::vector<double>& values) {
+        std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
+                         values.end());
+        return values[values.size() / 2];
+    };
+    state.counters["ratio"] = median(ours) / median(plain);
+}
+BENCHMARK(saveInTurn)
+    ->Name("save/tarvo, medians against plain in turn")
+    ->Unit(benchmark::kMicrosecond)
+    ->Iterations(150)
+    ->UseManualTime();
 
 void saveOursWhole(benchmark::State& state) {
     Fortnight fortnight;
@@ -133,8 +167,7 @@ void loadOurs(benchmark::State& state) {
     AtomicFile file(fortnight.path);
     for (auto _ : state) {
         const HistoryStore store(file, fortnight.clock);
-        if (store.samples().size() != static_cast<std::size_t>(minutes))
-            state.SkipWithError("not loaded");
+        if (store.samples().size() != static_cast<std::size_t>(minutes)) state.SkipWithError("not loaded");
     }
 }
 BENCHMARK(loadOurs)->Name("load/tarvo, file to samples")->Unit(benchmark::kMicrosecond);

@@ -6,7 +6,7 @@
 
 /// What was read can be written, and reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto samples = tarvo::parseHistory({reinterpret_cast<const char*>(data), size});
+    const auto samples = tarvo::parseHistory(std::string(reinterpret_cast<const char*>(data), size));
     if (!samples) return 0;
     std::string json = "[";
     for (const auto& sample : *samples) {

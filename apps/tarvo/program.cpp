@@ -1,11 +1,16 @@
 #include "program.h"
 
+#include "https_helper_path.h"
 #include "localization/app_language.h"
+#include "platform/build_options.h"
 #include "platform/desktop/desktop_window.h"
 #include "platform/linux/process_name.h"
 #include "platform/linux/system_language.h"
 #include "platform/linux/xdg_directories.h"
 #include "platform/posix/environment.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
 
 #include <string>
 
@@ -20,6 +25,15 @@ std::string preferencePath() {
     return linux_platform::preferenceFilePath(processEnvironment).value_or(std::string());
 }
 
+std::string dataFolder() {
+    return linux_platform::applicationDataFolder(processEnvironment).value_or(std::string());
+}
+
+/// A recorded machine has no network.
+std::string manifestAddress(const ProgramOptions& options) {
+    return options.root.empty() ? std::string(build_options::updateManifestAddress) : std::string();
+}
+
 } // namespace
 
 Program::Program(desktop::QtApplication& application, const ProgramOptions& options)
@@ -27,8 +41,24 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
       sharedSettings_(settings_),
       localization_(preferences_, linux_platform::systemLanguageCode(processEnvironment)),
       sharedLocalization_(localization_),
-      machine_({.root = options.root, .https = nullptr}, clock_, dispatcher_),
-      model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), nullptr)),
+      https_(childProcesses_, dispatcher_,
+             httpsHelperPath(QCoreApplication::applicationDirPath().toStdString())),
+      machine_({.root = options.root, .https = options.root.empty() ? &https_ : nullptr}, clock_,
+               dispatcher_),
+      records_(dataFolder(), clock_), notifications_(QDBusConnection::sessionBus()),
+      alerts_({.notifications = notifications_,
+               .log = []() -> AlertLogStore& { return AlertLogStore::shared(); },
+               .settings = settings_,
+               .localization = localization_,
+               .clock = clock_}),
+      updates_({.preferences = preferences_,
+                .https = https_,
+                .clock = clock_,
+                .dispatcher = dispatcher_,
+                .manifestAddress = manifestAddress(options),
+                .currentVersion = std::string(build_options::version)}),
+      sharedUpdates_(updates_),
+      model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), &records_.history())),
       statusBar_(statusBarNeeds()), delegate_(std::make_shared<AppDelegate>(appServices())),
       preferenceSubscription_(preferences_.observe([this] { preferencesChanged(); })),
       preferenceWatcher_(preferences_.path(), [this] { preferencesChangedElsewhere(); }),
@@ -68,10 +98,10 @@ AppServices Program::appServices() {
             .makePopoverContent = {},
             .makePreviewContent = {},
             .pointerPosition = {},
-            .evaluateAlerts = {},
+            .evaluateAlerts = [this](const StatsSnapshot& snapshot) { alerts_.evaluate(snapshot); },
             .registerHotKey = {},
-            .checkForUpdatesIfDue = {},
-            .saveUnsavedHistory = {}};
+            .checkForUpdatesIfDue = [this] { updates_.checkIfNeeded(); },
+            .saveUnsavedHistory = [this] { records_.history().save(); }};
 }
 
 void Program::preferencesChanged() {

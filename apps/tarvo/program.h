@@ -6,8 +6,10 @@
 #include "core/settings.h"
 #include "core/shared_instance.h"
 #include "core/stats_model.h"
+#include "history/alert_manager.h"
 #include "localization/localization_manager.h"
 #include "menubar/app_delegate.h"
+#include "platform/desktop/desktop_notifications.h"
 #include "platform/desktop/desktop_status_bar.h"
 #include "platform/desktop/preference_file_watcher.h"
 #include "platform/desktop/qt_application.h"
@@ -15,7 +17,11 @@
 #include "platform/desktop/symbols/symbol_images.h"
 #include "platform/desktop/termination_signals.h"
 #include "platform/linux/preference_file.h"
+#include "platform/posix/https_helper_client.h"
+#include "platform/posix/posix_child_processes.h"
 #include "platform/posix/system_clock.h"
+#include "stored_records.h"
+#include "update/update_checker.h"
 
 #include <memory>
 
@@ -49,7 +55,14 @@ private:
     NotificationCenter notificationCenter_;
     LocalizationManager localization_;
     SharedInstance<LocalizationManager> sharedLocalization_;
+    POSIXChildProcesses childProcesses_;
+    HTTPSHelperClient https_;
     Machine machine_;
+    StoredRecords records_;
+    desktop::DesktopNotifications notifications_;
+    AlertManager alerts_;
+    UpdateChecker updates_;
+    SharedInstance<UpdateChecker> sharedUpdates_;
     std::shared_ptr<StatsModel> model_;
     desktop::SymbolImages symbols_;
     desktop::DesktopStatusBar statusBar_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "history/uuid.h"
+#include "core/uuid.h"
 #include "platform/clock.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #include "history/alert_manager.h"
 
-#include "history/uuid.h"
+#include "core/uuid.h"
 
 #include <fmt/format.h>
 #include <utility>

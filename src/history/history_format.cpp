@@ -69,10 +69,10 @@ bool appendHistorySample(std::string& json, const HistorySample& sample) {
     return true;
 }
 
-std::optional<std::vector<HistorySample>> parseHistory(std::string_view json) {
+std::optional<std::vector<HistorySample>> parseHistory(const std::string& json) {
     dom::parser parser;
     dom::array array;
-    if (parser.parse(json.data(), json.size()).get(array) != simdjson::SUCCESS) return std::nullopt;
+    if (parser.parse(json).get(array) != simdjson::SUCCESS) return std::nullopt;
 
     std::vector<HistorySample> samples;
     samples.reserve(json.size() / usualObjectSize);

@@ -4,7 +4,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// The content of history.json: a compact JSON array with one object a sample,
@@ -17,7 +16,7 @@ bool appendHistorySample(std::string& json, const HistorySample& sample);
 
 /// Reads a whole file. Keys may come in any order, unknown ones are passed over, "cpuTemp" may be null or
 /// missing; absent for anything else: what is no such array, a missing key, another type, a date that
-/// parseISO8601 refuses.
-std::optional<std::vector<HistorySample>> parseHistory(std::string_view json);
+/// parseISO8601 refuses. The text is not copied where it has 64 bytes of capacity to spare.
+std::optional<std::vector<HistorySample>> parseHistory(const std::string& json);
 
 } // namespace tarvo

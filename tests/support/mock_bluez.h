@@ -1,51 +1,19 @@
 #pragma once
 
-#include "support/qt_wait.h"
-#include "support/test_bus.h"
+#include "support/mock_service.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QProcess>
-#include <QProcessEnvironment>
 
 #include <string>
 
 namespace tarvo {
 
 /// BlueZ as python3-dbusmock plays it, on a bus of the test's own.
-class MockBluez {
+class MockBluez : public MockService {
 public:
-    /// False where python3-dbusmock is not installed.
-    static bool isInstalled() {
-        QProcess probe;
-        probe.start(python(), {QStringLiteral("-c"), QStringLiteral("import dbusmock.templates.bluez5")});
-        return probe.waitForFinished(20'000) && probe.exitCode() == 0;
-    }
-
-    explicit MockBluez(TestBus& bus) : connection_(bus.connect()), address_(bus.address()) {
+    explicit MockBluez(TestBus& bus) : MockService(bus, "bluez5", "org.bluez") {
         qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
-    }
-    ~MockBluez() { stop(); }
-    MockBluez(const MockBluez&) = delete;
-    MockBluez& operator=(const MockBluez&) = delete;
-
-    bool start() {
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), address_);
-        process_.setProcessEnvironment(environment);
-        process_.start(python(),
-                       {QStringLiteral("-m"), QStringLiteral("dbusmock"), QStringLiteral("--system"),
-                        QStringLiteral("--template"), QStringLiteral("bluez5")});
-        return waitUntil([this] {
-            return connection_.interface()->isServiceRegistered(QStringLiteral("org.bluez")).value();
-        });
-    }
-    void stop() {
-        process_.kill();
-        process_.waitForFinished();
     }
 
     void addAdapter(const char* name) { mock("AddAdapter", {name, "Test machine"}); }
@@ -78,10 +46,6 @@ public:
     void settle() { call("/", "org.freedesktop.DBus.Peer", "Ping", {}); }
 
 private:
-    static constexpr const char* mockInterface = "org.freedesktop.DBus.Mock";
-
-    static QString python() { return QStringLiteral("/usr/bin/python3"); }
-
     QVariant mock(const char* method, const QVariantList& arguments) {
         return call("/", "org.bluez.Mock", method, arguments);
     }
@@ -92,22 +56,6 @@ private:
         call("/", mockInterface, "EmitSignal",
              {"org.freedesktop.DBus.ObjectManager", name, signature, QVariant(arguments)});
     }
-    QVariant call(const std::string& path, const char* interface, const char* method,
-                  const QVariantList& arguments) {
-        auto message =
-            QDBusMessage::createMethodCall("org.bluez", QString::fromStdString(path), interface, method);
-        message.setArguments(arguments);
-        const auto reply = connection_.call(message);
-        if (reply.type() != QDBusMessage::ReplyMessage) {
-            ADD_FAILURE() << method << ": " << reply.errorMessage().toStdString();
-            return {};
-        }
-        return reply.arguments().value(0);
-    }
-
-    QDBusConnection connection_;
-    QString address_;
-    QProcess process_;
 };
 
 } // namespace tarvo

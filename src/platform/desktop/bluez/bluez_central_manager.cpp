@@ -82,8 +82,8 @@ void BluezCentralManager::followSignals() {
 }
 
 void BluezCentralManager::askForOwner() {
-    send(*bus_, bluez::nameHasOwnerCall(), this, [this](const QDBusMessage& reply) {
-        if (bluez::saysYes(reply)) {
+    send(*bus_, nameHasOwnerCall(bluez::service), this, [this](const QDBusMessage& reply) {
+        if (saysYes(reply)) {
             askForObjects();
         } else if (!hasObjects_) {
             loseObjects();

@@ -11,7 +11,7 @@ std::optional<std::vector<PairedBluetoothDevice>> BluezPairedDevices::pairedDevi
     const auto ask = [&bus](const QDBusMessage& call) {
         return bus.call(call, QDBus::Block, bluez::timeoutMilliseconds);
     };
-    if (!bus.isConnected() || !bluez::saysYes(ask(bluez::nameHasOwnerCall()))) return std::nullopt;
+    if (!bus.isConnected() || !saysYes(ask(nameHasOwnerCall(bluez::service)))) return std::nullopt;
     const auto objects = parseManagedObjects(ask(bluez::managedObjectsCall()));
     return objects ? std::optional(pairedDevicesOf(*objects)) : std::nullopt;
 }

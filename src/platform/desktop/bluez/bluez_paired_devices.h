@@ -1,15 +1,9 @@
 #pragma once
 
 #include "platform/bluetooth.h"
-
-#include <QDBusConnection>
-
-#include <functional>
+#include "platform/desktop/system_bus.h"
 
 namespace tarvo::desktop {
-
-/// Makes or finds the connection to the bus on which BlueZ lives. May wait: not on the main thread.
-using ConnectBus = std::function<QDBusConnection()>;
 
 /// The paired devices as BlueZ knows them at the moment; no list without BlueZ.
 class BluezPairedDevices : public PairedBluetoothDevices {

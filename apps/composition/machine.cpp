@@ -41,9 +41,10 @@ struct Machine::Parts {
     Parts(MachineOptions given, Clock& theClock, Dispatcher& theDispatcher)
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
           host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
-          disks(root), gpus(root, clock, nvidia()), volumes(root, clock), wifiClient(root), wifi(wifiClient),
-          battery(root, dispatcher), backups(makeLinuxBackups(root, processEnvironment, clock, liveTools())),
-          processes(root, clock) {
+          disks(root), gpus(root, clock, nvidia()), volumes(root, clock),
+          wifiClient(options.wifi ? options.wifi : std::make_shared<LinuxWiFiClient>(root)),
+          wifi(*wifiClient), battery(root, dispatcher),
+          backups(makeLinuxBackups(root, processEnvironment, clock, liveTools())), processes(root, clock) {
         registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
         registry.provide("IOAccelerator", [this] { return gpus.services(); });
         registry.provide("AppleSmartBattery", [this] { return battery.registryEntries(); });
@@ -81,7 +82,7 @@ struct Machine::Parts {
     LinuxGPUs gpus;
     LinuxIORegistry registry;
     LinuxVolumes volumes;
-    LinuxWiFiClient wifiClient;
+    std::shared_ptr<WiFiClient> wifiClient;
     WiFiInfo wifi;
     SystemBattery battery;
     POSIXChildProcesses tools;
@@ -129,7 +130,7 @@ Volumes& Machine::volumes() {
 }
 
 WiFiClient& Machine::wifi() {
-    return parts_->wifiClient;
+    return *parts_->wifiClient;
 }
 
 const SensorMonitor* Machine::sensors() const {

@@ -4,7 +4,10 @@
 #include "localization/app_language.h"
 #include "platform/build_options.h"
 #include "platform/desktop/desktop_window.h"
+#include "platform/desktop/network_manager_wifi.h"
+#include "platform/linux/linux_wifi_client.h"
 #include "platform/linux/process_name.h"
+#include "platform/linux/root.h"
 #include "platform/linux/system_language.h"
 #include "platform/linux/xdg_directories.h"
 #include "platform/posix/environment.h"
@@ -34,6 +37,14 @@ std::string manifestAddress(const ProgramOptions& options) {
     return options.root.empty() ? std::string(build_options::updateManifestAddress) : std::string();
 }
 
+// A recorded machine has no NetworkManager to ask.
+std::shared_ptr<WiFiClient> makeWiFi(const ProgramOptions& options) {
+    if (!options.root.empty()) return nullptr;
+    return std::make_shared<desktop::NetworkManagerWiFi>(
+        desktop::systemBus(QStringLiteral("tarvo-wifi")),
+        std::make_unique<linux_platform::LinuxWiFiClient>(linux_platform::Root(options.root)));
+}
+
 } // namespace
 
 Program::Program(desktop::QtApplication& application, const ProgramOptions& options)
@@ -43,8 +54,10 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
       sharedLocalization_(localization_),
       https_(childProcesses_, dispatcher_,
              httpsHelperPath(QCoreApplication::applicationDirPath().toStdString())),
-      machine_({.root = options.root, .https = options.root.empty() ? &https_ : nullptr}, clock_,
-               dispatcher_),
+      machine_({.root = options.root,
+                .https = options.root.empty() ? &https_ : nullptr,
+                .wifi = makeWiFi(options)},
+               clock_, dispatcher_),
       records_(dataFolder(), clock_), notifications_(QDBusConnection::sessionBus()),
       alerts_({.notifications = notifications_,
                .log = []() -> AlertLogStore& { return AlertLogStore::shared(); },

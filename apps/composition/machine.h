@@ -22,10 +22,10 @@ class SensorMonitor;
 class SensorNames;
 
 struct MachineOptions {
-    std::string root;                 ///< folder of a recorded machine; empty: the running one
-    bool readsSensors = true;         ///< without, no sensor is looked for and their readings stay absent
-    HTTPSClient* https = nullptr;     ///< without one the public address stays unknown; outlives the machine
-    std::shared_ptr<WiFiClient> wifi; ///< asked in place of the machine's own client
+    std::string root{};           ///< folder of a recorded machine; empty: the running one
+    bool readsSensors = true;     ///< without, no sensor is looked for and their readings stay absent
+    HTTPSClient* https = nullptr; ///< without one the public address stays unknown; outlives the machine
+    std::shared_ptr<WiFiClient> wifi{}; ///< asked in place of the machine's own client
 };
 
 /// The sources of one machine and the readers wired to them: what both programs have in common. Made and

@@ -23,6 +23,12 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// The library's own form that does not throw is replaced too, as what it gives is freed by ours.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    ++count;
+    return std::malloc(size == 0 ? 1 : size);
+}
+
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }

@@ -1,6 +1,7 @@
 #include "platform/iso8601.h"
 
-#include <algorithm>
+#include "platform/clamped_wall_time.h"
+
 #include <cstddef>
 
 namespace tarvo {
@@ -72,12 +73,6 @@ std::chrono::year_month_day readDate(FieldReader& reader) {
             std::chrono::day(static_cast<unsigned>(day))};
 }
 
-WallTime clamped(sys_seconds time) {
-    constexpr auto earliest = std::chrono::ceil<std::chrono::seconds>(WallTime::min());
-    constexpr auto latest = std::chrono::floor<std::chrono::seconds>(WallTime::max());
-    return std::clamp(time, earliest, latest);
-}
-
 } // namespace
 
 void appendISO8601(std::string& text, WallTime time) {
@@ -123,7 +118,7 @@ std::optional<WallTime> parseISO8601(std::string_view text) {
     if (!reader.fitsWhole() || !date.ok() || !time.ok() || !offset.ok()) return std::nullopt;
 
     const sys_seconds local = sys_days(date) + time.sinceMidnight();
-    return clamped(zone == '-' ? local + offset.sinceMidnight() : local - offset.sinceMidnight());
+    return clampedWallTime(zone == '-' ? local + offset.sinceMidnight() : local - offset.sinceMidnight());
 }
 
 } // namespace tarvo

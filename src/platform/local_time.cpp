@@ -1,5 +1,7 @@
 #include "platform/local_time.h"
 
+#include "platform/clamped_wall_time.h"
+
 #include <chrono>
 #include <ctime>
 
@@ -74,14 +76,14 @@ std::optional<WallTime> parseLocalTime(std::string_view text, std::string_view p
     local.tm_wday = -1;  // stays so when the conversion fails; -1 as a moment is a real one
     const auto moment = std::mktime(&local);
     if (local.tm_wday == -1) return std::nullopt;
-    return std::chrono::system_clock::from_time_t(moment);
+    return clampedWallTime(std::chrono::sys_seconds(std::chrono::seconds(moment)));
 }
 
 std::optional<WallTime> parseUniversalTime(std::string_view text, std::string_view pattern) {
     const auto fields = parse(text, pattern);
     if (!fields) return std::nullopt;
-    return std::chrono::sys_days(dateOf(*fields)) + std::chrono::hours(fields->hour) +
-           std::chrono::minutes(fields->minute) + std::chrono::seconds(fields->second);
+    return clampedWallTime(std::chrono::sys_days(dateOf(*fields)) + std::chrono::hours(fields->hour) +
+                           std::chrono::minutes(fields->minute) + std::chrono::seconds(fields->second));
 }
 
 } // namespace tarvo

@@ -28,6 +28,16 @@ TEST(LocalTime, KnowsTheLastSecondBeforeTheEpoch) {
     EXPECT_EQ(parseLocalTime("1900-01-01 00:00:00", "yyyy-MM-dd HH:mm:ss"), WallTime(seconds(-2208988800)));
 }
 
+TEST(LocalTime, ClampsWhatTheProgramCannotHold) {
+    const TimeZone zone("UTC0");
+    const auto latest = std::chrono::floor<seconds>(WallTime::max());
+    const auto earliest = std::chrono::ceil<seconds>(WallTime::min());
+    EXPECT_EQ(parseLocalTime("7025-07-15", "yyyy-MM-dd"), latest);
+    EXPECT_EQ(parseLocalTime("1066-10-14", "yyyy-MM-dd"), earliest);
+    EXPECT_EQ(parseUniversalTime("7025-07-15", "yyyy-MM-dd"), latest);
+    EXPECT_EQ(parseUniversalTime("1066-10-14", "yyyy-MM-dd"), earliest);
+}
+
 class NoLocalTime : public testing::TestWithParam<const char*> {};
 
 TEST_P(NoLocalTime, IsAbsent) {

@@ -1,5 +1,6 @@
 #include "platform/linux/iso_time.h"
 
+#include "platform/clamped_wall_time.h"
 #include "platform/local_time.h"
 
 #include <algorithm>
@@ -53,7 +54,8 @@ std::optional<WallTime> parseISOTime(std::string_view text) {
     if (zone->empty()) return parseLocalTime(moment, pattern);
     const auto offset = zoneOffset(*zone);
     const auto universal = offset ? parseUniversalTime(moment, pattern) : std::nullopt;
-    return universal ? std::optional(*universal - *offset) : std::nullopt;
+    if (!universal) return std::nullopt;
+    return clampedWallTime(std::chrono::floor<std::chrono::seconds>(*universal) - *offset);
 }
 
 } // namespace tarvo::linux_platform

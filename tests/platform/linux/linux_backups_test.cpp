@@ -115,6 +115,8 @@ TEST(DejaDup, OfAFlatpakIsReadFromItsSettingsAndProcesses) {
     folder.write("proc/11/status", "Name:\trestic\nPPid:\t10\n");
     EXPECT_TRUE(tool.state()->isRunning);
     EXPECT_EQ(parseGSettingsTime("''\n"), std::nullopt);
+    EXPECT_EQ(parseGSettingsTime("'7025-07-15T12:00:00.1+02'"),
+              std::chrono::floor<std::chrono::seconds>(WallTime::max()) - std::chrono::hours(2));
 }
 
 TEST(Timeshift, IsReadFromItsConfigurationFoldersAndProcess) {

@@ -34,6 +34,15 @@ if(TARVO_COVERAGE)
   add_link_options(--coverage)
 endif()
 
+# Reading Qt's headers takes longer than compiling what uses them: targets that draw link this privately and read
+# them once.
+if(TARVO_DESKTOP)
+  add_library(tarvo_qt_headers INTERFACE)
+  target_precompile_headers(tarvo_qt_headers INTERFACE
+    <QApplication> <QLabel> <QPainter> <QVBoxLayout> <algorithm> <chrono> <functional> <memory> <optional> <string>
+    <unordered_map> <vector> <fmt/format.h>)
+endif()
+
 # tarvo_library(NAME SOURCES ... [LINK ...])
 # A static library of one folder under src/, included by paths that start at src/; headers only without sources.
 function(tarvo_library name)

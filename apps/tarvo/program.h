@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bluetooth.h"
 #include "command_line.h"
 #include "composition/machine.h"
 #include "core/notification_center.h"
@@ -58,6 +59,7 @@ private:
     POSIXChildProcesses childProcesses_;
     HTTPSHelperClient https_;
     Machine machine_;
+    Bluetooth bluetooth_;
     StoredRecords records_;
     desktop::DesktopNotifications notifications_;
     AlertManager alerts_;

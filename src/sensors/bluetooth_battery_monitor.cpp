@@ -1,5 +1,7 @@
 #include "sensors/bluetooth_battery_monitor.h"
 
+#include "core/shared_instance.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -17,6 +19,10 @@ BluetoothBatteryMonitor::BluetoothBatteryMonitor(BluetoothCentralManagerFactory 
     : makeCentralManager_(std::move(makeCentralManager)) {}
 
 BluetoothBatteryMonitor::~BluetoothBatteryMonitor() = default;
+
+BluetoothBatteryMonitor& BluetoothBatteryMonitor::shared() {
+    return SharedInstance<BluetoothBatteryMonitor>::get();
+}
 
 void BluetoothBatteryMonitor::refresh() {
     if (!centralManager_) {

@@ -19,6 +19,9 @@ public:
     explicit BluetoothBatteryMonitor(BluetoothCentralManagerFactory makeCentralManager);
     ~BluetoothBatteryMonitor() override;
 
+    /// The instance that the whole process uses; see SharedInstance.
+    static BluetoothBatteryMonitor& shared();
+
     /// Starts a round. The first one makes the central manager, and goes on once the radio says it is on.
     void refresh();
 

@@ -1,11 +1,15 @@
 #include "platform/desktop/system_bus.h"
 
+#include <memory>
+#include <mutex>
 #include <utility>
 
 namespace tarvo::desktop {
 
 ConnectBus keptConnection(const QString& name, OpenBus open) {
-    return [name, open = std::move(open)] {
+    const auto oneAtATime = std::make_shared<std::mutex>();
+    return [name, open = std::move(open), oneAtATime] {
+        const std::lock_guard lock(*oneAtATime); // else one thread would close what another has just opened
         const QDBusConnection kept(name);
         if (kept.isConnected()) return kept;
         QDBusConnection::disconnectFromBus(name); // else the lost one would be found again

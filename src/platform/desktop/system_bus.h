@@ -14,7 +14,7 @@ using ConnectBus = std::function<QDBusConnection()>;
 /// A new connection that Qt knows by the given name from then on.
 using OpenBus = std::function<QDBusConnection(const QString& name)>;
 
-/// Opens a connection of that name when it is first asked for, and again when it was lost.
+/// Opens a connection of that name when it is first asked for, and again when it was lost. Any thread.
 ConnectBus keptConnection(const QString& name, OpenBus open);
 
 /// The same for the system bus. The name is to be used for nothing else in the program.

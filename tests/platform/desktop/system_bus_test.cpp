@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <future>
+#include <vector>
+
 namespace tarvo::desktop {
 namespace {
 
@@ -28,6 +32,23 @@ TEST(KeptConnection, IsMadeAnewOnlyWhenItWasLost) {
     address = second.address();
     EXPECT_TRUE(connect().isConnected());
     EXPECT_EQ(opened, 3);
+    QDBusConnection::disconnectFromBus(name);
+}
+
+TEST(KeptConnection, IsOpenedOnceForThreadsThatAskAtOnce) {
+    const auto name = QStringLiteral("shared");
+    TestBus bus;
+    std::atomic<int> opened = 0;
+    const auto connect = keptConnection(name, [&, address = bus.address()](const QString& connectionName) {
+        ++opened;
+        return QDBusConnection::connectToBus(address, connectionName);
+    });
+    std::vector<std::future<bool>> answers;
+    for (int thread = 0; thread < 8; ++thread)
+        answers.push_back(std::async(std::launch::async, [&connect] { return connect().isConnected(); }));
+    for (auto& answer : answers)
+        EXPECT_TRUE(answer.get());
+    EXPECT_EQ(opened, 1);
     QDBusConnection::disconnectFromBus(name);
 }
 

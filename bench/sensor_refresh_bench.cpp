@@ -2,6 +2,7 @@
 // processor and 12 graphics temperatures, 3 fans, the power of a battery that discharges.
 
 #include "platform/linux/virtual_smc.h"
+#include "platform/posix/file_descriptor.h"
 #include "platform/posix/system_clock.h"
 #include "sensors/sensor_monitor.h"
 #include "support/temporary_folder.h"

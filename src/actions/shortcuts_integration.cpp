@@ -17,32 +17,21 @@ struct ResultBox {
     std::optional<AutomationOutcome> outcome;
 };
 
-std::string pick(const LKey& key, AppLanguage language) {
-    return std::string(language == AppLanguage::cs ? key.cs : key.en);
-}
-
-std::string timeoutText(SystemFamily family, AppLanguage language) {
-    if (family == SystemFamily::macOS) {
-        return pick({"Zkratka neodpověděla včas — možná čeká na potvrzení oprávnění, které appka nemůže "
-                     "zobrazit. Zkus ji "
-                     "nejdřív ručně spustit přímo v appce Zkratky.",
-                     "The shortcut didn't respond in time — it may be waiting on a permission prompt the app "
-                     "can't show. "
-                     "Try running it manually in the Shortcuts app first."},
-                    language);
-    }
-    return pick({"Automatizace neskončila včas. Běží dál; zkus ji nejdřív ručně spustit v terminálu.",
-                 "The automation didn't finish in time. It keeps running; try running it manually in a "
-                 "terminal first."},
-                language);
-}
-
-std::string genericText(SystemFamily family, AppLanguage language) {
-    if (family == SystemFamily::macOS) {
-        return pick({"Zkratka skončila s chybou.", "The shortcut finished with an error."}, language);
-    }
-    return pick({"Automatizace skončila s chybou.", "The automation finished with an error."}, language);
-}
+constexpr LKey shortcutTimeout{
+    .cs =
+        "Zkratka neodpověděla včas — možná čeká na potvrzení oprávnění, které appka nemůže zobrazit. Zkus ji "
+        "nejdřív ručně spustit přímo v appce Zkratky.",
+    .en =
+        "The shortcut didn't respond in time — it may be waiting on a permission prompt the app can't show. "
+        "Try running it manually in the Shortcuts app first."};
+constexpr LKey automationTimeout{
+    .cs = "Automatizace neskončila včas. Běží dál; zkus ji nejdřív ručně spustit v terminálu.",
+    .en = "The automation didn't finish in time. It keeps running; try running it manually in a terminal "
+          "first."};
+constexpr LKey shortcutError{.cs = "Zkratka skončila s chybou.",
+                             .en = "The shortcut finished with an error."};
+constexpr LKey automationError{.cs = "Automatizace skončila s chybou.",
+                               .en = "The automation finished with an error."};
 
 } // namespace
 
@@ -66,9 +55,9 @@ std::vector<std::string> ShortcutsIntegration::listShortcuts() const {
     return automations_->list();
 }
 
-std::optional<std::string> ShortcutsIntegration::run(const std::string& name,
-                                                     std::chrono::duration<double> timeout,
-                                                     AppLanguage language) const {
+std::optional<AutomationFailure> ShortcutsIntegration::attempt(const std::string& name,
+                                                               std::chrono::duration<double> timeout) const {
+    const bool isMac = automations_->family() == SystemFamily::macOS;
     const auto box = std::make_shared<ResultBox>();
     std::thread([box, automations = automations_, name] {
         auto outcome = automations->run(name);
@@ -79,10 +68,22 @@ std::optional<std::string> ShortcutsIntegration::run(const std::string& name,
 
     std::unique_lock lock(box->mutex);
     if (!box->signalled.wait_for(lock, timeout, [&] { return box->outcome.has_value(); })) {
-        return timeoutText(automations_->family(), language);
+        return AutomationFailure{std::nullopt, isMac ? shortcutTimeout : automationTimeout};
     }
     if (box->outcome->succeeded) return std::nullopt;
-    return box->outcome->message ? *box->outcome->message : genericText(automations_->family(), language);
+    return AutomationFailure{box->outcome->message, isMac ? shortcutError : automationError};
+}
+
+std::optional<std::string> ShortcutsIntegration::run(const std::string& name,
+                                                     std::chrono::duration<double> timeout,
+                                                     AppLanguage language) const {
+    const auto failure = attempt(name, timeout);
+    return failure ? std::optional(failure->text(language)) : std::nullopt;
+}
+
+std::string AutomationFailure::text(AppLanguage language) const {
+    if (ownWords) return *ownWords;
+    return std::string(language == AppLanguage::cs ? otherwise.cs : otherwise.en);
 }
 
 } // namespace tarvo

@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include <utility>
+
 namespace tarvo {
 namespace {
 
@@ -78,6 +80,16 @@ MenuBarStyle Settings::menuBarStyle() const {
 
 bool Settings::isMenuBarModuleEnabled(MenuBarModule module) const {
     return boolean(fmt::format("menubar.{}", rawValue(module)));
+}
+
+std::vector<std::string> Settings::customShortcuts() const {
+    const auto stored = defaults_.object(keys::customShortcuts);
+    const auto* names = stored ? std::get_if<std::vector<std::string>>(&*stored) : nullptr;
+    return names ? *names : std::vector<std::string>();
+}
+
+void Settings::setCustomShortcuts(std::vector<std::string> names) {
+    defaults_.set(keys::customShortcuts, std::move(names));
 }
 
 bool Settings::showsSection(std::string_view section) const {

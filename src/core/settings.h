@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvo {
 
@@ -36,6 +37,9 @@ public:
     AccentTheme accentTheme() const;
     void setAccentTheme(AccentTheme theme);
     bool wifiSSIDEnabled() const;
+    /// The automations that the user chose, in the order in which they were added.
+    std::vector<std::string> customShortcuts() const;
+    void setCustomShortcuts(std::vector<std::string> names);
     /// Visibility of a popover section by its key's second part, e.g. "gauges" for show.gauges.
     bool showsSection(std::string_view section) const;
 

@@ -1,32 +1,17 @@
 #include "actions/shortcuts_integration.h"
 
+#include "support/scripted_automations.h"
+
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <future>
 #include <memory>
+#include <thread>
 
 namespace tarvo {
 namespace {
 
 using namespace std::chrono_literals;
 using Names = std::vector<std::string>;
-
-struct ScriptedAutomations : Automations {
-    SystemFamily family() const override { return systemFamily; }
-    std::vector<std::string> list() override { return {"a", "b"}; }
-    AutomationOutcome run(const std::string& name) override {
-        ++started;
-        if (name == "hang") released.wait();
-        return outcome;
-    }
-
-    SystemFamily systemFamily = SystemFamily::macOS;
-    AutomationOutcome outcome;
-    std::atomic<int> started{0};
-    std::promise<void> release;
-    std::shared_future<void> released = release.get_future().share();
-};
 
 class ShortcutsIntegrationTest : public testing::Test {
 protected:
@@ -49,6 +34,7 @@ TEST(ShortcutNames, AreNoneWhenTheTextIsNotUTF8) {
 }
 
 TEST_F(ShortcutsIntegrationTest, ListsWhatThePlatformReports) {
+    automations->names = {"a", "b"};
     EXPECT_EQ(shortcuts.listShortcuts(), (Names{"a", "b"}));
 }
 
@@ -78,9 +64,23 @@ TEST_F(ShortcutsIntegrationTest, ARunThatNeverEndsIsReportedAndASecondOneStartsB
               "Zkratka neodpověděla včas — možná čeká na potvrzení oprávnění, které appka nemůže zobrazit. "
               "Zkus ji nejdřív "
               "ručně spustit přímo v appce Zkratky.");
-    EXPECT_FALSE(shortcuts.run("a", 20s, AppLanguage::en));
-    EXPECT_EQ(automations->started, 3);
-    automations->release.set_value();
+    automations->systemFamily = SystemFamily::other;
+    EXPECT_EQ(shortcuts.run("hang", 10ms, AppLanguage::en),
+              "The automation didn't finish in time. It keeps running; try running it manually in a terminal "
+              "first.");
+    EXPECT_EQ(shortcuts.run("hang", 10ms, AppLanguage::cs),
+              "Automatizace neskončila včas. Běží dál; zkus ji nejdřív ručně spustit v terminálu.");
+    // Each has a thread of its own, which the system may start late.
+    while (automations->started().size() < 4)
+        std::this_thread::yield();
+    automations->releaseHanging();
+}
+
+TEST_F(ShortcutsIntegrationTest, PassesANameOnAsItIs) {
+    for (const char* name : {R"(say "hi" \now)", "-dash", " trailing ", "\ttab"}) {
+        EXPECT_FALSE(shortcuts.run(name, 20s, AppLanguage::en));
+        EXPECT_EQ(automations->started().back(), name);
+    }
 }
 
 TEST_F(ShortcutsIntegrationTest, TheLimitIsTwentySeconds) {

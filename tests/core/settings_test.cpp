@@ -167,6 +167,15 @@ TEST_F(SettingsTest, AKeyOutsideTheTableReadsAsFalseOrZeroUntilWritten) {
     EXPECT_EQ(settings.integer("x"), 4);
 }
 
+TEST_F(SettingsTest, TheChosenAutomationsKeepTheirOrder) {
+    EXPECT_TRUE(settings.customShortcuts().empty());
+    settings.setCustomShortcuts({"b", "a", "b"});
+    EXPECT_EQ(settings.customShortcuts(), (std::vector<std::string>{"b", "a", "b"}));
+    EXPECT_TRUE(store.object("customShortcuts"));
+    store.set("customShortcuts", std::string("not a list"));
+    EXPECT_TRUE(settings.customShortcuts().empty());
+}
+
 TEST_F(SettingsTest, NothingIsCached) {
     EXPECT_EQ(settings.refreshInterval(), 2.0);
     store.set("refreshInterval", 10.0);

@@ -40,9 +40,7 @@ bool hasBattery(const PanelContext&, const StatsSnapshot& snapshot) {
 }
 
 bool hasAutomations(const PanelContext& context, const StatsSnapshot&) {
-    const auto stored = context.settings.defaults().object(keys::customShortcuts);
-    const auto* names = stored ? std::get_if<std::vector<std::string>>(&*stored) : nullptr;
-    return names && !names->empty();
+    return !context.settings.customShortcuts().empty();
 }
 
 constexpr std::array<CardRow, 14> rows{{{"", hasUpdate, makeCard<UpdateBanner>},

@@ -34,19 +34,33 @@ if(TARVO_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# Reading Qt's headers takes longer than compiling what uses them: targets that draw link this privately and read
-# them once.
-if(TARVO_DESKTOP)
-  add_library(tarvo_qt_headers INTERFACE)
-  target_precompile_headers(tarvo_qt_headers INTERFACE
-    <QApplication> <QLabel> <QPainter> <QVBoxLayout> <algorithm> <chrono> <functional> <memory> <optional> <string>
-    <unordered_map> <vector> <fmt/format.h>)
+# Reading headers takes longer than compiling what uses them. They are read once: the standard library's for all
+# libraries, GoogleTest's for all tests, Qt's for each target that DRAWS.
+set(TARVO_STANDARD_HEADERS <algorithm> <chrono> <functional> <memory> <optional> <string> <unordered_map> <vector>
+  <fmt/format.h>)
+set(TARVO_QT_HEADERS <QApplication> <QLabel> <QPainter> <QVBoxLayout>)
+set(TARVO_TEST_HEADERS <gmock/gmock.h> <gtest/gtest.h>)
+
+# tarvo_headers(NAME HEADERS...)
+# Makes an existing target the one that others take the precompiled headers from.
+function(tarvo_headers name)
+  target_precompile_headers(${name} PRIVATE ${ARGN})
+  target_link_libraries(${name} PRIVATE tarvo_options fmt::fmt)
+endfunction()
+
+file(WRITE ${CMAKE_BINARY_DIR}/generated/headers.cpp "int main() {}\n")
+add_library(tarvo_library_headers STATIC ${CMAKE_BINARY_DIR}/generated/headers.cpp)
+tarvo_headers(tarvo_library_headers ${TARVO_STANDARD_HEADERS})
+if(TARVO_TESTS)
+  add_executable(tarvo_test_headers ${CMAKE_BINARY_DIR}/generated/headers.cpp)
+  tarvo_headers(tarvo_test_headers ${TARVO_STANDARD_HEADERS} ${TARVO_TEST_HEADERS})
+  target_link_libraries(tarvo_test_headers PRIVATE GTest::gmock)
 endif()
 
-# tarvo_library(NAME SOURCES ... [LINK ...])
+# tarvo_library(NAME [DRAWS] SOURCES ... [LINK ...])
 # A static library of one folder under src/, included by paths that start at src/; headers only without sources.
 function(tarvo_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DRAWS" "" "SOURCES;LINK")
   if(NOT arg_SOURCES)
     add_library(${name} INTERFACE)
     target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -55,17 +69,26 @@ function(tarvo_library name)
   endif()
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE tarvo_options)
+  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE tarvo_options fmt::fmt)
+  if(arg_DRAWS)
+    target_precompile_headers(${name} PRIVATE ${TARVO_STANDARD_HEADERS} ${TARVO_QT_HEADERS})
+  else()
+    target_precompile_headers(${name} REUSE_FROM tarvo_library_headers)
+  endif()
 endfunction()
 
-# tarvo_test(NAME SOURCES ... [LINK ...])
+# tarvo_test(NAME [DRAWS] SOURCES ... [LINK ...])
 # One GoogleTest program; every test in it is one CTest test named NAME.Suite.Case.
 function(tarvo_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DRAWS" "" "SOURCES;LINK")
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_link_libraries(${name} PRIVATE ${arg_LINK} tarvo_test_support tarvo_options GTest::gmock GTest::gtest_main)
-  target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+  target_link_libraries(${name} PRIVATE ${arg_LINK} tarvo_test_support tarvo_options fmt::fmt GTest::gmock GTest::gtest_main)
+  if(arg_DRAWS)
+    target_precompile_headers(${name} PRIVATE ${TARVO_STANDARD_HEADERS} ${TARVO_TEST_HEADERS} ${TARVO_QT_HEADERS})
+  else()
+    target_precompile_headers(${name} REUSE_FROM tarvo_test_headers)
+  endif()
   target_compile_definitions(${name} PRIVATE TARVO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()

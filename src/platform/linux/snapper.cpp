@@ -1,5 +1,6 @@
 #include "platform/linux/snapper.h"
 
+#include "platform/clamped_wall_time.h"
 #include "platform/linux/busctl_values.h"
 #include "platform/linux/folder.h"
 
@@ -54,9 +55,8 @@ std::optional<WallTime> parseNewestSnapperDate(std::string_view text) {
         if (!date) break;
         newest = std::max(newest, *date);
     }
-    constexpr std::int64_t latestMoment = 100'000'000'000;
-    if (newest <= 0 || newest > latestMoment) return std::nullopt;
-    return WallTime(std::chrono::seconds(newest));
+    if (newest <= 0) return std::nullopt;
+    return clampedWallTime(std::chrono::sys_seconds(std::chrono::seconds(newest)));
 }
 
 std::optional<BackupState> Snapper::state() {

@@ -1,5 +1,6 @@
 #include "platform/linux/systemd_backups.h"
 
+#include "platform/clamped_wall_time.h"
 #include "platform/linux/busctl_values.h"
 
 #include <algorithm>
@@ -105,7 +106,8 @@ void SystemdBackups::addService(Bus bus, const SystemdUnit& unit, BackupState& s
     if (type != "oneshot") return; // a service that runs for ever makes its backups unseen
     state.isRunning = state.isRunning || isWorking(unit);
     if (result != "success" || endedAt <= 0) return;
-    const WallTime ended{std::chrono::duration_cast<WallTime::duration>(std::chrono::microseconds(endedAt))};
+    const auto ended = clampedWallTime(std::chrono::sys_seconds(
+        std::chrono::floor<std::chrono::seconds>(std::chrono::microseconds(endedAt))));
     state.latestBackup = std::max(state.latestBackup, std::optional(ended));
 }
 

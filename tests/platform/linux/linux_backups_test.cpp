@@ -148,6 +148,8 @@ TEST(Snapper, ConfigurationsAndDatesAreTaken) {
     EXPECT_EQ(parseNewestSnapperDate("a(uquxussa{ss}) 2 0 0 0 -1 0 \"current\" \"\" 0 "
                                      "1 0 0 1752580800 0 \"d\" \"number\" 1 \"k\" \"v\"\n"),
               noon);
+    EXPECT_EQ(parseNewestSnapperDate("a(uquxussa{ss}) 1 1 0 0 99999999999 0 \"d\" \"number\" 0\n"),
+              std::chrono::floor<std::chrono::seconds>(WallTime::max()));
     EXPECT_EQ(parseNewestSnapperDate("s \"denied\""), std::nullopt);
 }
 

@@ -3,6 +3,7 @@
 #include "https_helper_path.h"
 #include "localization/app_language.h"
 #include "platform/build_options.h"
+#include "platform/desktop/appearance/dark_palette.h"
 #include "platform/desktop/desktop_window.h"
 #include "platform/desktop/network_manager_wifi.h"
 #include "platform/linux/linux_wifi_client.h"
@@ -73,10 +74,12 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
                 .currentVersion = std::string(build_options::version)}),
       sharedUpdates_(updates_),
       model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), &records_.history())),
-      statusBar_(statusBarNeeds()), delegate_(std::make_shared<AppDelegate>(appServices())),
+      colorScheme_(QDBusConnection::sessionBus()), statusBar_(statusBarNeeds()),
+      delegate_(std::make_shared<AppDelegate>(appServices())),
       preferenceSubscription_(preferences_.observe([this] { preferencesChanged(); })),
       preferenceWatcher_(preferences_.path(), [this] { preferencesChangedElsewhere(); }),
       signals_([this] { application_.terminate(); }) {
+    colorScheme_.changed = [this] { desktop::followColorScheme(colorScheme_.prefersDark()); };
     statusBar_.bar().hostChanged = [this] { notificationCenter_.post(menuBarStyleChanged); };
 }
 

@@ -10,6 +10,7 @@
 #include "history/alert_manager.h"
 #include "localization/localization_manager.h"
 #include "menubar/app_delegate.h"
+#include "platform/desktop/appearance/portal_color_scheme.h"
 #include "platform/desktop/desktop_notifications.h"
 #include "platform/desktop/desktop_status_bar.h"
 #include "platform/desktop/preference_file_watcher.h"
@@ -66,6 +67,7 @@ private:
     UpdateChecker updates_;
     SharedInstance<UpdateChecker> sharedUpdates_;
     std::shared_ptr<StatsModel> model_;
+    desktop::PortalColorScheme colorScheme_;
     desktop::SymbolImages symbols_;
     desktop::DesktopStatusBar statusBar_;
     std::shared_ptr<AppDelegate> delegate_;

@@ -3,12 +3,13 @@
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QObject>
 #include <QStringList>
 
 namespace tarvo {
 
-/// A tray's org.kde.StatusNotifierWatcher on a bus: remembers who registered.
+/// A tray's org.kde.StatusNotifierWatcher on a bus: remembers who registered, and reads its picture.
 class FakeNotifierWatcher : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -35,9 +36,20 @@ public:
     }
 
     QStringList items; ///< "name path", in order of registration
+    bool readsPictures = true;
+
+    void readPicture(const QString& name, const QString& path) {
+        auto question = QDBusMessage::createMethodCall(
+            name, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        question << QStringLiteral("org.kde.StatusNotifierItem") << QStringLiteral("IconPixmap");
+        bus_.asyncCall(question);
+    }
 
 public slots:
-    void RegisterStatusNotifierItem(const QString& path) { items.append(message().service() + u' ' + path); }
+    void RegisterStatusNotifierItem(const QString& path) {
+        items.append(message().service() + u' ' + path);
+        if (readsPictures) readPicture(message().service(), path);
+    }
 
 signals:
     void StatusNotifierHostRegistered();

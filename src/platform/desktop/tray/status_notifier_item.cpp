@@ -72,6 +72,7 @@ TrayPixmaps StatusNotifierItem::iconPixmap() {
         for (const double ratio : ratios)
             pixmaps_.append(toTrayPixmap(picture_.draw(model_.content(), ratio)));
     }
+    if (pictureRead) pictureRead();
     return pixmaps_;
 }
 

@@ -8,6 +8,7 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusObjectPath>
 
+#include <functional>
 #include <optional>
 
 namespace tarvo::desktop {
@@ -44,6 +45,9 @@ public:
     /// The face changed: hosts are told once in this turn of the loop, by the signals of what differs.
     void faceChanged();
     void toolTipChanged();
+
+    /// Runs when somebody has asked for the picture, before the answer leaves.
+    std::function<void()> pictureRead;
 
     QString category() const { return QStringLiteral("Hardware"); }
     QString id() const { return id_; }

@@ -20,10 +20,10 @@ void openConnection(const QString& address, const QString& name) {
 } // namespace
 
 TrayHost::TrayHost(TrayTraits traits, SymbolImages& symbols, Dispatcher& dispatcher, QDBusConnection bus,
-                   std::string busAddress)
+                   std::string busAddress, std::chrono::milliseconds readingLimit)
     : traits_(traits), symbols_(symbols), dispatcher_(dispatcher),
       trays_(sni::watcherService, bus, QDBusServiceWatcher::WatchForRegistration),
-      busAddress_(QString::fromStdString(busAddress)) {
+      busAddress_(QString::fromStdString(busAddress)), readingLimit_(readingLimit) {
     QObject::connect(&trays_, &QDBusServiceWatcher::serviceRegistered, &trays_, [this] { registerAll(); });
 }
 
@@ -31,7 +31,7 @@ TrayHost::~TrayHost() = default;
 
 std::unique_ptr<HostedItem> TrayHost::realise(StatusItemModel& model) {
     const QString id = QStringLiteral("tarvo-%1").arg(++made_);
-    auto item = std::make_unique<TrayItem>(model, id, traits_, fonts_, symbols_,
+    auto item = std::make_unique<TrayItem>(model, id, traits_, fonts_, symbols_, readingLimit_,
                                            [this](TrayItem& gone) { removed(gone); });
     items_.push_back(item.get());
     if (awaitingConnection_.isEmpty()) {

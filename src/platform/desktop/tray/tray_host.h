@@ -11,6 +11,7 @@
 #include <QDBusServiceWatcher>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,13 +19,14 @@
 namespace tarvo::desktop {
 
 /// The desktop's own tray, by the StatusNotifierItem protocol. Items appear a moment after they were made:
-/// their connections are opened off the main thread, and they are registered one after the other, so that
-/// they stand in their order.
+/// their connections are opened off the main thread, and they are registered one after the other, each when
+/// the tray has read the one before, so that they stand in their order.
 class TrayHost : public StatusBarHost {
 public:
-    /// `busAddress` is empty for the session bus, whose services `bus` watches. References outlive the host.
+    /// `busAddress` is empty for the session bus, whose services `bus` watches. `readingLimit` is how long
+    /// the next item waits at most for the one before. References outlive the host.
     TrayHost(TrayTraits traits, SymbolImages& symbols, Dispatcher& dispatcher, QDBusConnection bus,
-             std::string busAddress = {});
+             std::string busAddress = {}, std::chrono::milliseconds readingLimit = std::chrono::seconds{1});
     ~TrayHost() override;
 
     std::unique_ptr<HostedItem> realise(StatusItemModel& model) override;
@@ -42,6 +44,7 @@ private:
     Dispatcher& dispatcher_;
     QDBusServiceWatcher trays_;
     QString busAddress_;
+    std::chrono::milliseconds readingLimit_;
     BarFonts fonts_;
     std::vector<TrayItem*> items_; ///< in order of making
     int made_ = 0;

@@ -20,10 +20,20 @@ const QString itemPath = QStringLiteral("/StatusNotifierItem");
 } // namespace
 
 TrayItem::TrayItem(StatusItemModel& model, const QString& id, TrayTraits traits, BarFonts& fonts,
-                   SymbolImages& symbols, std::function<void(TrayItem&)> removed)
+                   SymbolImages& symbols, std::chrono::milliseconds readingLimit,
+                   std::function<void(TrayItem&)> removed)
     : connectionName_(QUuid::createUuid().toString()), removed_(std::move(removed)),
       notifier_(new StatusNotifierItem(&exported_, model, id, traits, fonts, symbols)) {
     new DBusMenu(&exported_, [&model] { return model.contextMenu(); });
+    readingLimit_.setSingleShot(true);
+    readingLimit_.setInterval(readingLimit);
+    QObject::connect(&readingLimit_, &QTimer::timeout, &exported_, [this] { finishRegistration(); });
+    // The answer with the picture leaves first.
+    notifier_->pictureRead = [this] {
+        if (registrationDone_)
+            QMetaObject::invokeMethod(
+                &exported_, [this] { pictureRead(); }, Qt::QueuedConnection);
+    };
 }
 
 TrayItem::~TrayItem() {
@@ -43,13 +53,31 @@ void TrayItem::registerItem(std::function<void()> done) {
                                        QStringLiteral("RegisterStatusNotifierItem"));
     message.setAutoStartService(false);
     message << itemPath;
+    registrationDone_ = std::move(done);
+    hasReply_ = false;
+    isRead_ = false;
     const QDBusPendingCall call = QDBusConnection(connectionName_).asyncCall(message, timeoutMilliseconds);
     auto* pending = new QDBusPendingCallWatcher(call, &exported_);
-    QObject::connect(pending, &QDBusPendingCallWatcher::finished, &exported_,
-                     [pending, done = std::move(done)] {
-                         pending->deleteLater();
-                         done();
-                     });
+    QObject::connect(pending, &QDBusPendingCallWatcher::finished, &exported_, [this, pending] {
+        pending->deleteLater();
+        replied(pending->isError());
+    });
+}
+
+void TrayItem::replied(bool isError) {
+    hasReply_ = true;
+    if (isError || isRead_) return finishRegistration();
+    readingLimit_.start();
+}
+
+void TrayItem::pictureRead() {
+    isRead_ = true;
+    if (hasReply_) finishRegistration();
+}
+
+void TrayItem::finishRegistration() {
+    readingLimit_.stop();
+    if (const auto done = std::exchange(registrationDone_, {})) done();
 }
 
 void TrayItem::changed(StatusItemPart part) {

@@ -7,7 +7,9 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
+#include <chrono>
 #include <functional>
 
 namespace tarvo::desktop {
@@ -18,7 +20,8 @@ class TrayItem : public HostedItem {
 public:
     /// `removed` runs when the item is destroyed.
     TrayItem(StatusItemModel& model, const QString& id, TrayTraits traits, BarFonts& fonts,
-             SymbolImages& symbols, std::function<void(TrayItem&)> removed);
+             SymbolImages& symbols, std::chrono::milliseconds readingLimit,
+             std::function<void(TrayItem&)> removed);
     ~TrayItem() override;
     TrayItem(const TrayItem&) = delete;
     TrayItem& operator=(const TrayItem&) = delete;
@@ -28,18 +31,28 @@ public:
     bool isExported() const { return isExported_; }
     /// The connection is open: puts the item on it.
     void exportTo(QDBusConnection bus);
-    /// Tells the tray of the item; `done` runs after its reply, on the main thread.
+    /// Tells the tray of the item. `done` runs on the main thread once the tray has replied and read the
+    /// picture, which is when trays put an item in its place; without waiting longer than a second for the
+    /// reading.
     void registerItem(std::function<void()> done);
 
     void changed(StatusItemPart part) override;
     void popUpMenu(const Menu& menu) override;
 
 private:
+    void replied(bool isError);
+    void pictureRead();
+    void finishRegistration();
+
     QString connectionName_;
     std::function<void(TrayItem&)> removed_;
     QObject exported_;
     StatusNotifierItem* notifier_;
     bool isExported_ = false;
+    std::function<void()> registrationDone_; ///< empty while none is under way
+    bool hasReply_ = false;
+    bool isRead_ = false;
+    QTimer readingLimit_;
 };
 
 } // namespace tarvo::desktop

@@ -16,6 +16,7 @@ namespace tarvo::desktop {
 namespace {
 
 using testing::ElementsAre;
+using namespace std::chrono_literals;
 
 constexpr TrayTraits labelled{.keepsAspect = false, .showsLabel = true, .reversed = false};
 
@@ -32,8 +33,9 @@ public slots:
 
 class TrayHostTest : public testing::Test {
 protected:
-    std::unique_ptr<TrayHost> makeHost(TrayTraits traits = {}) {
-        return std::make_unique<TrayHost>(traits, symbols, dispatcher, own, bus.address().toStdString());
+    std::unique_ptr<TrayHost> makeHost(TrayTraits traits = {}, std::chrono::milliseconds readingLimit = 1h) {
+        return std::make_unique<TrayHost>(traits, symbols, dispatcher, own, bus.address().toStdString(),
+                                          readingLimit);
     }
     bool registered(int count) {
         return waitUntil([&] { return tray.items.size() >= count; });
@@ -86,6 +88,31 @@ TEST_F(TrayHostTest, RegistersBackwardsForTraysThatPutTheLastFirst) {
     const auto second = host->realise(model);
     ASSERT_TRUE(registered(2));
     EXPECT_EQ(properties(nameOf(0)).value("Id"), "tarvo-2");
+}
+
+TEST_F(TrayHostTest, RegistersTheNextWhenTheTrayHasReadTheOneBefore) {
+    tray.readsPictures = false;
+    tray.appear();
+    const auto host = makeHost();
+    const auto first = host->realise(model);
+    const auto second = host->realise(model);
+    ASSERT_TRUE(registered(1));
+    tray.readsPictures = true;
+    runPostedEvents();
+    EXPECT_EQ(tray.items.size(), 1);
+    tray.readPicture(nameOf(0), "/StatusNotifierItem");
+    ASSERT_TRUE(registered(2));
+    EXPECT_EQ(properties(nameOf(1)).value("Id"), "tarvo-2");
+}
+
+TEST_F(TrayHostTest, DoesNotWaitForATrayThatReadsNoPicture) {
+    tray.readsPictures = false;
+    tray.appear();
+    const auto host = makeHost({}, 1ms);
+    const auto first = host->realise(model);
+    const auto second = host->realise(model);
+    const auto third = host->realise(model);
+    EXPECT_TRUE(registered(3));
 }
 
 TEST_F(TrayHostTest, HasThePropertiesThatTraysAskFor) {

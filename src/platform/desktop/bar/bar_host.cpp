@@ -1,5 +1,6 @@
 #include "platform/desktop/bar/bar_host.h"
 
+#include "platform/desktop/bar/bar_item_accessible.h"
 #include "platform/desktop/bar/x11_dock.h"
 #include "platform/desktop/status_menu.h"
 
@@ -56,6 +57,7 @@ private:
 
 BarHost::BarHost(SymbolImages& symbols, std::function<void()> closedByUser)
     : symbols_(symbols), docks_(canDock()) {
+    installBarAccessibility();
     window_ = std::make_unique<BarWindow>(docks_ ? BarWindow::Kind::dock : BarWindow::Kind::window);
     window_->closedByUser = std::move(closedByUser);
     window_->installEventFilter(this);

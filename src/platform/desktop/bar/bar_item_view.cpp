@@ -2,6 +2,7 @@
 
 #include "platform/desktop/logging.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -34,6 +35,7 @@ BarItemView::BarItemView(StatusItemModel& model, BarFonts& fonts, SymbolImages& 
 }
 
 void BarItemView::faceChanged() {
+    tellAssistivePrograms();
     if (needsLayout_) return;
     needsLayout_ = true;
     update();
@@ -42,6 +44,16 @@ void BarItemView::faceChanged() {
 
 void BarItemView::toolTipChanged() {
     setToolTip(toolTipText(model_->content().toolTip));
+}
+
+void BarItemView::tellAssistivePrograms() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void BarItemView::click(StatusClick click) {
+    if (model_) model_->clicked(click);
 }
 
 void BarItemView::forgetFonts() {
@@ -81,8 +93,8 @@ void BarItemView::mousePressEvent(QMouseEvent* event) {
 }
 
 void BarItemView::mouseReleaseEvent(QMouseEvent* event) {
-    const auto click = clickOf(event->button());
-    if (click && model_ && rect().contains(event->position().toPoint())) model_->clicked(*click);
+    const auto button = clickOf(event->button());
+    if (button && rect().contains(event->position().toPoint())) click(*button);
 }
 
 } // namespace tarvo::desktop

@@ -23,6 +23,10 @@ public:
     /// To be called before the fonts end that the view was laid out with.
     void forgetFonts();
     int wantedWidth();
+    /// Null once the item is gone.
+    const StatusItemContent* content() const { return model_ ? &model_->content() : nullptr; }
+    /// The user clicked, by whatever means.
+    void click(StatusClick click);
 
 signals:
     /// The item needs another place on the bar.
@@ -36,6 +40,7 @@ protected:
 
 private:
     void layOutIfNeeded();
+    void tellAssistivePrograms();
 
     StatusItemModel* model_;
     ItemFace face_;

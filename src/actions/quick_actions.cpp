@@ -101,22 +101,24 @@ void QuickActions::confirmKill(const ProcInfo& process) {
     const Alert question{localization_.t({"Ukončit proces?", "Quit this process?"}),
                          fmt::format("{} (PID {})", process.name, process.pid),
                          {localization_.t({"Ukončit", "Quit"}), localization_.t({"Zrušit", "Cancel"})}};
-    dialogs_.show(question, [this, pid = process.pid](std::size_t button) {
+    // Held from the question on: while it waits for its answer the number may go to another process.
+    dialogs_.show(question, [this, terminate = processes_.terminator(process.pid)](std::size_t button) {
         if (button != firstButton) return;
-        processes_.terminate(pid);
+        terminate();
         refreshProcesses_();
     });
 }
 
 void QuickActions::perform(QuickAction action) {
     desktop_.perform(action,
-                     [this, reports = rowOf(action).reportsFailure](std::optional<std::string> failure) {
+                     [this, reports = rowOf(action).reportsFailure](std::optional<FailureText> failure) {
                          if (failure && reports) showFailure(*failure);
                      });
 }
 
-void QuickActions::showFailure(const std::string& reason) {
-    Alert alert{localization_.t({"Akce se nezdařila", "Action Failed"}), reason, {}};
+void QuickActions::showFailure(const FailureText& reason) {
+    Alert alert{
+        localization_.t({"Akce se nezdařila", "Action Failed"}), localization_.t({reason.cs, reason.en}), {}};
     const bool offersSettings = desktop_.hasAutomationSettings();
     if (offersSettings) alert.buttons.push_back(localization_.t({"Otevřít nastavení", "Open Settings"}));
     alert.buttons.push_back(localization_.t({"Zrušit", "Cancel"}));

@@ -42,7 +42,7 @@ public:
 
 private:
     void perform(QuickAction action);
-    void showFailure(const std::string& reason);
+    void showFailure(const FailureText& reason);
 
     DesktopActions& desktop_;
     Dialogs& dialogs_;

@@ -82,7 +82,7 @@ std::optional<std::string> ShortcutsIntegration::run(const std::string& name,
 }
 
 std::string AutomationFailure::text(AppLanguage language) const {
-    if (ownWords) return *ownWords;
+    if (ownWords) return language == AppLanguage::cs ? ownWords->cs : ownWords->en;
     return std::string(language == AppLanguage::cs ? otherwise.cs : otherwise.en);
 }
 

@@ -18,7 +18,7 @@ std::vector<std::string> parseShortcutNames(std::string_view text);
 
 /// Why a run failed: in the automation's own words or, where it has none, in both languages.
 struct AutomationFailure {
-    std::optional<std::string> ownWords;
+    std::optional<FailureText> ownWords;
     LKey otherwise;
     std::string text(AppLanguage language) const;
 };

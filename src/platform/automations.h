@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/failure_text.h"
 #include "platform/system_family.h"
 
 #include <functional>
@@ -12,7 +13,7 @@ namespace tarvo {
 /// How a run of an automation ended.
 struct AutomationOutcome {
     bool succeeded = true;
-    std::optional<std::string> message; ///< the failure's own words, where it has any
+    std::optional<FailureText> message; ///< the failure's own words, where it has any
 };
 
 /// The user's own automations. Any thread; both operations wait.

@@ -18,6 +18,9 @@ struct ChildProcessRequest {
     std::string workingFolder{};                          ///< absolute path; empty: that of this process
     std::optional<std::chrono::milliseconds> timeLimit{}; ///< absent: as long as it takes
     bool keepErrorTail = false;                           ///< else standard error is thrown away
+    /// For what may start programs that stay: its standard output is thrown away, the end of its standard
+    /// error is kept, only its own exit is awaited, and at the time limit it is left running.
+    bool mayGoOn = false;
 };
 
 struct ChildProcessResult {

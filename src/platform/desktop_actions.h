@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/failure_text.h"
 #include "platform/system_family.h"
 
 #include <functional>
 #include <optional>
-#include <string>
 
 namespace tarvo {
 
@@ -20,8 +20,8 @@ enum class QuickAction {
 /// What a desktop can be asked to do by one click. Main thread only; nothing here waits.
 class DesktopActions {
 public:
-    /// The failure's own words, absent on success. Runs once, on the main thread.
-    using Done = std::function<void(std::optional<std::string> failure)>;
+    /// Absent on success. Runs once, on the main thread.
+    using Done = std::function<void(std::optional<FailureText> failure)>;
 
     virtual ~DesktopActions() = default;
     virtual SystemFamily family() const = 0;

@@ -1,17 +1,24 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace tarvo {
 
 /// Asks processes to end.
 class ProcessControl {
 public:
+    /// Sends the polite request to end (SIGTERM) and returns at once. False when nothing was sent: the
+    /// process has ended, or there is no permission.
+    using Terminate = std::function<bool()>;
+
     virtual ~ProcessControl() = default;
-    /// Sends the polite request to end (SIGTERM) to exactly this process, never to a group and never to
-    /// pid 1. False when nothing was sent: no such process, no permission, or the number now belongs to a
-    /// process other than the one that was listed under it. Returns at once; any thread.
-    virtual bool terminate(std::int32_t pid) = 0;
+    /// Takes hold of the process that was listed under the number, so that the request reaches exactly this
+    /// one whenever it is made: never a process that takes over the number meanwhile, never a group and never
+    /// pid 1. Any thread.
+    virtual Terminate terminator(std::int32_t pid) = 0;
+
+    bool terminate(std::int32_t pid) { return terminator(pid)(); }
 };
 
 } // namespace tarvo

@@ -1,6 +1,7 @@
 #include "actions/quick_actions.h"
 
 #include "support/memory_preference_store.h"
+#include "support/recording_process_control.h"
 #include "support/scripted_desktop_actions.h"
 #include "support/scripted_dialogs.h"
 
@@ -11,15 +12,6 @@
 
 namespace tarvo {
 namespace {
-
-struct RecordingProcessControl : ProcessControl {
-    bool terminate(std::int32_t pid) override {
-        ended.push_back(pid);
-        return answer;
-    }
-    std::vector<std::int32_t> ended;
-    bool answer = true;
-};
 
 class QuickActionsTest : public testing::Test {
 protected:
@@ -96,7 +88,7 @@ TEST_F(QuickActionsTest, RunTheOthersAtOnce) {
 }
 
 TEST_F(QuickActionsTest, ExplainAFailureAndOfferTheSettings) {
-    desktop.failures[QuickAction::toggleDarkMode] = "Not allowed.";
+    desktop.failures.emplace(QuickAction::toggleDarkMode, "Not allowed.");
     actions.trigger(QuickAction::toggleDarkMode);
     EXPECT_EQ(dialogs.shown,
               (std::vector<Alert>{{"Action Failed", "Not allowed.", {"Open Settings", "Cancel"}}}));
@@ -105,7 +97,7 @@ TEST_F(QuickActionsTest, ExplainAFailureAndOfferTheSettings) {
 }
 
 TEST_F(QuickActionsTest, OpenNothingWhenTheFailureIsDismissed) {
-    desktop.failures[QuickAction::newFileManagerWindow] = "No file manager.";
+    desktop.failures.emplace(QuickAction::newFileManagerWindow, "No file manager.");
     actions.trigger(QuickAction::newFileManagerWindow);
     dialogs.press(1);
     EXPECT_EQ(desktop.settingsOpened, 0);
@@ -114,7 +106,7 @@ TEST_F(QuickActionsTest, OpenNothingWhenTheFailureIsDismissed) {
 TEST_F(QuickActionsTest, OfferNoSettingsWhereTheSystemHasNone) {
     desktop.systemFamily = SystemFamily::other;
     localization.setLanguage(AppLanguage::cs);
-    desktop.failures[QuickAction::emptyTrash] = "nelze";
+    desktop.failures.emplace(QuickAction::emptyTrash, "nelze");
     actions.confirmEmptyTrash();
     dialogs.press(0);
     ASSERT_EQ(dialogs.shown.size(), 2U);
@@ -123,10 +115,20 @@ TEST_F(QuickActionsTest, OfferNoSettingsWhereTheSystemHasNone) {
     EXPECT_EQ(desktop.settingsOpened, 0);
 }
 
+TEST_F(QuickActionsTest, ExplainAFailureInTheLanguageOfTheMoment) {
+    desktop.failures.emplace(QuickAction::toggleDarkMode, FailureText("nejde to", "no way"));
+    actions.trigger(QuickAction::toggleDarkMode);
+    localization.setLanguage(AppLanguage::cs);
+    actions.trigger(QuickAction::toggleDarkMode);
+    ASSERT_EQ(dialogs.shown.size(), 2U);
+    EXPECT_EQ(dialogs.shown[0].informativeText, "no way");
+    EXPECT_EQ(dialogs.shown[1].informativeText, "nejde to");
+}
+
 TEST_F(QuickActionsTest, StaySilentWhenARestartFails) {
-    desktop.failures[QuickAction::restartFileManager] = "no such process";
-    desktop.failures[QuickAction::restartDock] = "no such process";
-    desktop.failures[QuickAction::sleepDisplay] = "no such tool";
+    desktop.failures.emplace(QuickAction::restartFileManager, "no such process");
+    desktop.failures.emplace(QuickAction::restartDock, "no such process");
+    desktop.failures.emplace(QuickAction::sleepDisplay, "no such tool");
     actions.trigger(QuickAction::restartFileManager);
     actions.trigger(QuickAction::restartDock);
     actions.trigger(QuickAction::sleepDisplay);
@@ -138,6 +140,7 @@ TEST_F(QuickActionsTest, EndExactlyTheNamedProcessAndRefreshOnce) {
     EXPECT_EQ(dialogs.shown,
               (std::vector<Alert>{{"Quit this process?", "Safari (PID 412)", {"Quit", "Cancel"}}}));
     EXPECT_TRUE(processes.ended.empty());
+    EXPECT_EQ(processes.held, std::vector<std::int32_t>{412}) << "held while the question is open";
     dialogs.press(0);
     EXPECT_EQ(processes.ended, std::vector<std::int32_t>{412});
     EXPECT_EQ(refreshes, 1);

@@ -23,7 +23,7 @@ public:
 
     SystemFamily systemFamily = SystemFamily::macOS;
     std::set<QuickAction> impossible;
-    std::map<QuickAction, std::string> failures;
+    std::map<QuickAction, FailureText> failures;
     std::vector<QuickAction> performed;
     int settingsOpened = 0;
 };

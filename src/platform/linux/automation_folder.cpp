@@ -44,29 +44,35 @@ AutomationFolder::AutomationFolder(std::string folder, std::string home, std::st
       processes_(std::move(processes)), lookup_(std::move(lookup)) {}
 
 std::vector<std::string> AutomationFolder::list() {
-    std::error_code ignored;
-    std::filesystem::create_directories(folder_, ignored);
+    makeFolder();
     std::vector<std::string> names;
     for (auto& automation : automations())
         names.push_back(std::move(automation.name));
     return names;
 }
 
+// The user's alone from the start, whatever new folders are otherwise open to.
+void AutomationFolder::makeFolder() const {
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(folder_).parent_path(), ignored);
+    ::mkdir(folder_.c_str(), S_IRWXU);
+}
+
 AutomationOutcome AutomationFolder::run(const std::string& name) {
     const auto all = automations();
     const auto found =
         std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.name == name; });
-    if (found == all.end()) return {false, name + ": not found"};
+    if (found == all.end()) return {false, FailureText(name + ": nenalezeno", name + ": not found")};
 
     const ChildProcessRequest request{.executable = found->command.front(),
                                       .arguments = {found->command.begin() + 1, found->command.end()},
                                       .workingFolder = home_,
-                                      .keepErrorTail = true};
+                                      .mayGoOn = true};
     const auto result = processes_->run(request);
-    if (!result) return {false, name + ": could not be started"};
+    if (!result) return {false, FailureText(name + ": nelze spustit", name + ": could not be started")};
     if (result->exitStatus == 0) return {};
     auto said = lastNonEmptyLine(result->errorTail);
-    return {false, said.empty() ? std::nullopt : std::optional(std::move(said))};
+    return {false, said.empty() ? std::nullopt : std::optional<FailureText>(std::move(said))};
 }
 
 std::vector<AutomationFolder::Automation> AutomationFolder::automations() const {

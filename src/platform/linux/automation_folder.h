@@ -32,6 +32,7 @@ private:
         std::string name;
         std::vector<std::string> command; ///< the executable first
     };
+    void makeFolder() const;
     std::vector<Automation> automations() const;
     std::optional<Automation> automationAt(const std::string& fileName) const;
 

@@ -1,17 +1,11 @@
 #include "platform/linux/autostart_entry.h"
 
+#include "platform/linux/desktop_entry_text.h"
+
 #include <fmt/format.h>
 
 namespace tarvo::linux_platform {
 namespace {
-
-constexpr std::string_view blanks = " \t\r";
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 std::string withBackslashBefore(std::string_view characters, std::string_view text) {
     std::string escaped;
@@ -45,22 +39,13 @@ std::string autostartEntry(std::string_view program) {
 }
 
 bool isFollowedAutostartEntry(std::string_view text) {
-    bool isEntryGroup = false;
     bool startsSomething = false;
     bool isTurnedOff = false;
-    while (!text.empty()) {
-        const auto end = text.find('\n');
-        const std::string_view line = trimmed(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        if (line.starts_with('[')) isEntryGroup = line == "[Desktop Entry]";
-        const auto equals = line.find('=');
-        if (!isEntryGroup || line.starts_with('#') || equals == std::string_view::npos) continue;
-        const std::string_view key = trimmed(line.substr(0, equals));
-        const std::string_view value = trimmed(line.substr(equals + 1));
+    readDesktopEntryKeys(text, [&](std::string_view key, std::string_view value) {
         if (key == "Exec") startsSomething = !value.empty();
         if (key == "Hidden" && value == "true") isTurnedOff = true;
         if (key == "X-GNOME-Autostart-enabled" && value == "false") isTurnedOff = true;
-    }
+    });
     return startsSomething && !isTurnedOff;
 }
 

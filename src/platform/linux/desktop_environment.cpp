@@ -49,15 +49,34 @@ bool isSet(const EnvironmentLookup& lookup, const char* name) {
     return value && !value->empty();
 }
 
+/// Where themes are looked for (XDG Base Directory Specification), the user's own first.
+std::vector<std::string> themeFolders(const EnvironmentLookup& lookup, const std::string& home) {
+    std::vector<std::string> folders;
+    if (!home.empty()) folders.push_back(home + "/.themes");
+    std::string list = lookup("XDG_DATA_HOME").value_or("");
+    if (list.empty() && !home.empty()) list = home + "/.local/share";
+    const auto shared = lookup("XDG_DATA_DIRS").value_or("");
+    list += ":" + (shared.empty() ? std::string("/usr/local/share:/usr/share") : shared);
+    for (std::string_view rest = list; !rest.empty();) {
+        const auto end = std::min(rest.find(':'), rest.size());
+        const auto folder = rest.substr(0, end);
+        if (folder.starts_with('/')) folders.push_back(std::string(folder) + "/themes");
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return folders;
+}
+
 } // namespace
 
-DesktopEnvironment desktopEnvironment(const EnvironmentLookup& lookup) {
+DesktopEnvironment desktopEnvironment(const EnvironmentLookup& lookup, unsigned userId) {
     DesktopEnvironment environment;
     environment.desktop = firstKnown(lookup("XDG_CURRENT_DESKTOP").value_or(""));
     environment.isWayland = isSet(lookup, "WAYLAND_DISPLAY");
     environment.isX11 = !environment.isWayland && isSet(lookup, "DISPLAY");
     const auto home = lookup("HOME").value_or("");
     if (home.starts_with('/')) environment.home = home;
+    environment.themeFolders = themeFolders(lookup, environment.home);
+    environment.userId = userId;
     return environment;
 }
 

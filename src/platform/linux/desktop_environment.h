@@ -18,9 +18,11 @@ struct DesktopEnvironment {
     Desktop desktop = Desktop::other;
     bool isWayland = false;
     bool isX11 = false;
-    std::string home; ///< absolute, else empty
+    std::string home;                        ///< absolute, else empty
+    std::vector<std::string> themeFolders{}; ///< folders that hold a folder for each theme of the toolkits
+    unsigned userId = 0;                     ///< who asks programs to end
 };
 
-DesktopEnvironment desktopEnvironment(const EnvironmentLookup& lookup);
+DesktopEnvironment desktopEnvironment(const EnvironmentLookup& lookup, unsigned userId = 0);
 
 } // namespace tarvo::linux_platform

@@ -12,6 +12,8 @@ namespace tarvo::linux_platform {
 namespace {
 
 constexpr std::chrono::seconds toolTimeLimit{10};
+/// How long a program that stays may take to fail.
+constexpr std::chrono::seconds startTimeLimit{3};
 
 using ToolLookup = LinuxDesktopActions::ToolLookup;
 
@@ -22,19 +24,49 @@ std::string lastLine(std::string text) {
     return end == std::string::npos ? text : text.substr(end + 1);
 }
 
+FailureText unsupported() {
+    return {"Toto prostředí to nepodporuje.", "This desktop does not support it."};
+}
+
+/// What a tool that did not do its work is reported with.
+std::optional<FailureText> failureOf(const std::string& tool, const ChildProcessResult& result) {
+    if (result.exitStatus == 0) return std::nullopt;
+    if (auto said = lastLine(result.errorTail); !said.empty()) return said;
+    if (result.exceededTimeLimit) {
+        return FailureText(tool + ": neodpovědělo včas", tool + ": did not answer in time");
+    }
+    const int status = result.exitStatus.value_or(-1);
+    return FailureText(fmt::format("{}: skončilo se stavem {}", tool, status),
+                       fmt::format("{}: ended with status {}", tool, status));
+}
+
+/// Tools are to speak in a way that can be read by programs; a window is to speak the user's language.
+ChildProcessRequest requestFor(const std::string& executable, const ToolCommand& command) {
+    if (command.staysOpen) {
+        return {.executable = executable,
+                .arguments = command.arguments,
+                .timeLimit = startTimeLimit,
+                .mayGoOn = true};
+    }
+    return {.executable = executable,
+            .arguments = command.arguments,
+            .environment = {{"LC_ALL", "C"}},
+            .timeLimit = toolTimeLimit,
+            .keepErrorTail = true};
+}
+
 /// Runs tools one after the other, with their failures in words.
 class Runner {
 public:
     Runner(ChildProcesses& processes, const ToolLookup& lookup) : processes_(processes), lookup_(lookup) {}
 
-    /// A failure's words, absent on success.
-    std::optional<std::string> carryOut(const ActionMeans& means) {
+    std::optional<FailureText> carryOut(const ActionMeans& means) {
         std::string answer;
         if (means.question) {
             if (auto failure = run(*means.question, &answer)) return failure;
         }
         const auto commands = means.commands(answer);
-        if (commands.empty()) return "This desktop does not support it.";
+        if (commands.empty()) return unsupported();
         for (const auto& command : commands) {
             if (auto failure = run(command, nullptr)) return failure;
         }
@@ -42,22 +74,16 @@ public:
     }
 
 private:
-    std::optional<std::string> run(const ToolCommand& command, std::string* output) {
-        const auto executable = lookup_(command.tool);
-        if (!executable) return fmt::format("{}: not installed", command.tool);
-        const ChildProcessRequest request{.executable = *executable,
-                                          .arguments = command.arguments,
-                                          .environment = {{"LC_ALL", "C"}},
-                                          .timeLimit = toolTimeLimit,
-                                          .keepErrorTail = true};
-        const auto result = processes_.run(request);
-        if (!result) return fmt::format("{}: could not be started", command.tool);
+    std::optional<FailureText> run(const ToolCommand& command, std::string* output) {
+        const auto& tool = command.tool;
+        const auto executable = lookup_(tool);
+        if (!executable) return FailureText(tool + ": není nainstalováno", tool + ": not installed");
+        const auto result = processes_.run(requestFor(*executable, command));
+        if (!result) return FailureText(tool + ": nelze spustit", tool + ": could not be started");
         if (output) *output = result->output;
-        if (result->exitStatus == 0) return std::nullopt;
-        const auto said = lastLine(result->errorTail);
-        if (!said.empty()) return said;
-        if (result->exceededTimeLimit) return fmt::format("{}: did not answer in time", command.tool);
-        return fmt::format("{}: ended with status {}", command.tool, result->exitStatus.value_or(-1));
+        // One that is still there is the window that was asked for.
+        if (command.staysOpen && result->exceededTimeLimit) return std::nullopt;
+        return failureOf(tool, *result);
     }
 
     ChildProcesses& processes_;
@@ -79,14 +105,16 @@ bool LinuxDesktopActions::canDo(QuickAction action) const {
 void LinuxDesktopActions::perform(QuickAction action, Done done) {
     auto work = [means = available(action), processes = processes_, lookup = lookup_,
                  emptyTrash = action == QuickAction::emptyTrash ? emptyTrash_
-                                                                : nullptr]() -> std::optional<std::string> {
+                                                                : nullptr]() -> std::optional<FailureText> {
         Runner runner(*processes, lookup);
-        std::optional<std::string> failure = "This desktop does not support it.";
+        std::optional<FailureText> failure = unsupported();
         for (const auto& one : means) {
             failure = runner.carryOut(one);
             if (!failure) return std::nullopt;
         }
-        return means.empty() && emptyTrash ? emptyTrash() : failure;
+        if (!emptyTrash) return failure;
+        const auto words = emptyTrash();
+        return words ? std::optional<FailureText>(*words) : std::nullopt;
     };
     dispatcher_.global(QualityOfService::userInitiated,
                        [work = std::move(work), done = std::move(done), &dispatcher = dispatcher_] {

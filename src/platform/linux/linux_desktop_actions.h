@@ -20,7 +20,8 @@ class LinuxDesktopActions : public DesktopActions {
 public:
     /// Absolute path of a tool in PATH; absent when it is not installed. Any thread.
     using ToolLookup = std::function<std::optional<std::string>(std::string_view tool)>;
-    /// Empties the trash without a tool; a failure's words, absent on success. Any thread.
+    /// Empties the trash without a tool, where there is none or it failed; a failure's words, absent on
+    /// success. Any thread.
     using EmptyTrash = std::function<std::optional<std::string>()>;
 
     LinuxDesktopActions(DesktopEnvironment environment, std::shared_ptr<ChildProcesses> processes,

@@ -12,6 +12,8 @@ namespace tarvo::linux_platform {
 
 /// Signals a process by a descriptor of the process itself (pidfd_open(2)), so that a number that is given to
 /// another process meanwhile cannot hit it; by its number alone where the kernel has no such descriptors.
+/// The processes of a recorded machine have only their numbers in common with those of this one: none is
+/// signalled.
 class LinuxProcessControl : public ProcessControl {
 public:
     /// Start time, in clock ticks after boot, of the process that was listed under a number; absent when none
@@ -20,11 +22,14 @@ public:
 
     LinuxProcessControl(const Root& root, ListedStartTime listed);
 
-    bool terminate(std::int32_t pid) override;
+    Terminate terminator(std::int32_t pid) override;
 
 private:
+    Terminate byDescriptor(std::int32_t pid) const;
+    Terminate byNumber(std::int32_t pid) const;
     bool isAsListed(std::int32_t pid) const;
 
+    bool isLive_;
     std::string processes_;
     ListedStartTime listed_;
 };

@@ -15,6 +15,8 @@ namespace tarvo::linux_platform {
 struct ToolCommand {
     std::string tool;
     std::vector<std::string> arguments;
+    /// It may be or become a program that stays: then it is not waited for, and speaks the user's language.
+    bool staysOpen = false;
     bool operator==(const ToolCommand&) const = default;
 };
 
@@ -26,10 +28,13 @@ struct ActionMeans {
     std::vector<std::string> needsOneOf;
     /// Asked first, where what is to be done depends on the present state.
     std::optional<ToolCommand> question;
-    /// What to run, one after the other, given the answer's first line (empty without a question).
+    /// What to run, one after the other, given the answer (empty without a question).
     /// Nothing to run means that it cannot be done.
     std::function<std::vector<ToolCommand>(std::string_view answer)> commands;
 };
+
+/// Asks the user's own processes of that name to end.
+ToolCommand endCommand(const std::string& name, unsigned userId);
 
 /// The ways in which this desktop can carry out an action, best first.
 std::vector<ActionMeans> meansFor(QuickAction action, const DesktopEnvironment& environment);

@@ -1,5 +1,8 @@
 #include "platform/linux/trash_folder.h"
 
+#include "platform/linux/mountinfo.h"
+#include "platform/linux/read_file.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -25,6 +28,14 @@ void emptyFolder(const files::path& folder, std::optional<std::string>& failure)
 }
 
 } // namespace
+
+std::vector<std::string> trashVolumes(const Root& root) {
+    std::vector<std::string> points;
+    for (const Mount& mount : parseMountInfo(readFile(root.path("/proc/self/mountinfo")).value_or(""))) {
+        if (mount.type != "autofs") points.push_back(root.path(mount.point));
+    }
+    return points;
+}
 
 std::vector<std::string> trashFolders(const std::string& dataHome,
                                       const std::vector<std::string>& mountPoints, unsigned userId) {

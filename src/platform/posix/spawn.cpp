@@ -88,10 +88,23 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     return pointers;
 }
 
+/// Starts the tool with what was prepared for its standard descriptors.
+std::optional<pid_t> start(const ChildProcessRequest& request, FileActions& actions) {
+    if (!request.executable.starts_with('/')) return std::nullopt;
+    if (!request.workingFolder.empty() && !actions.changeFolder(request.workingFolder)) return std::nullopt;
+    std::vector<std::string> arguments{request.executable};
+    arguments.insert(arguments.end(), request.arguments.begin(), request.arguments.end());
+    auto environment = environmentWith(request.environment);
+    const Attributes attributes;
+    pid_t pid = 0;
+    const int failure = ::posix_spawn(&pid, request.executable.c_str(), actions.get(), attributes.get(),
+                                      pointersTo(arguments).data(), pointersTo(environment).data());
+    return failure == 0 ? std::optional(pid) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<SpawnedChild> spawn(const ChildProcessRequest& request) {
-    if (!request.executable.starts_with('/')) return std::nullopt;
     auto output = makePipe();
     auto error = request.keepErrorTail ? makePipe() : std::nullopt;
     if (!output || (request.keepErrorTail && !error)) return std::nullopt;
@@ -100,19 +113,17 @@ std::optional<SpawnedChild> spawn(const ChildProcessRequest& request) {
     const bool prepared =
         actions.useNothing(STDIN_FILENO, O_RDONLY) && actions.use(output->writeEnd, STDOUT_FILENO) &&
         (error ? actions.use(error->writeEnd, STDERR_FILENO) : actions.useNothing(STDERR_FILENO, O_WRONLY));
-    if (!prepared) return std::nullopt;
-    if (!request.workingFolder.empty() && !actions.changeFolder(request.workingFolder)) return std::nullopt;
-
-    std::vector<std::string> arguments{request.executable};
-    arguments.insert(arguments.end(), request.arguments.begin(), request.arguments.end());
-    auto environment = environmentWith(request.environment);
-    const Attributes attributes;
-    pid_t pid = 0;
-    const int failure = ::posix_spawn(&pid, request.executable.c_str(), actions.get(), attributes.get(),
-                                      pointersTo(arguments).data(), pointersTo(environment).data());
-    if (failure != 0) return std::nullopt;
-    return SpawnedChild{pid, std::move(output->readEnd),
+    const auto pid = prepared ? start(request, actions) : std::nullopt;
+    if (!pid) return std::nullopt;
+    return SpawnedChild{*pid, std::move(output->readEnd),
                         error ? std::move(error->readEnd) : FileDescriptor()};
+}
+
+std::optional<pid_t> spawnLasting(const ChildProcessRequest& request, const FileDescriptor& error) {
+    FileActions actions;
+    const bool prepared = actions.useNothing(STDIN_FILENO, O_RDONLY) &&
+                          actions.useNothing(STDOUT_FILENO, O_WRONLY) && actions.use(error, STDERR_FILENO);
+    return prepared ? start(request, actions) : std::nullopt;
 }
 
 } // namespace tarvo

@@ -18,5 +18,7 @@ struct SpawnedChild {
 
 /// Starts the tool as the leader of a new process group, with no signal blocked or ignored.
 std::optional<SpawnedChild> spawn(const ChildProcessRequest& request);
+/// The same for a tool whose output nobody reads and whose standard error goes to a file.
+std::optional<pid_t> spawnLasting(const ChildProcessRequest& request, const FileDescriptor& error);
 
 } // namespace tarvo

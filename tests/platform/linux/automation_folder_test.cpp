@@ -1,5 +1,6 @@
 #include "platform/linux/automation_folder.h"
 
+#include "platform/posix/eventually.h"
 #include "platform/posix/posix_child_processes.h"
 #include "support/temporary_folder.h"
 
@@ -36,6 +37,14 @@ protected:
 TEST_F(AutomationFolderTest, IsMadeOnFirstUse) {
     EXPECT_EQ(automations.list(), Names{});
     EXPECT_TRUE(std::filesystem::is_directory(folder.path("automations")));
+}
+
+TEST_F(AutomationFolderTest, IsMadeForTheUserAlone) {
+    const mode_t before = ::umask(0);
+    automations.list();
+    ::umask(before);
+    script("a", "true");
+    EXPECT_EQ(automations.list(), Names{"a"});
 }
 
 TEST_F(AutomationFolderTest, ListsExecutablesByCodePoint) {
@@ -102,6 +111,14 @@ TEST_F(AutomationFolderTest, TellTheLastWordsOfAFailure) {
     EXPECT_EQ(outcome.message, "disk is full");
 }
 
+TEST_F(AutomationFolderTest, EndWithTheirOwnProgramWhateverItLeavesRunning) {
+    script("starts", "(while [ ! -e '" + folder.path("go") + "' ]; do sleep 0.05; done; echo ran >'" +
+                         folder.path("out") + "') &");
+    EXPECT_TRUE(automations.run("starts").succeeded);
+    folder.write("go", "");
+    EXPECT_TRUE(eventually([&] { return recorded() == "ran\n"; }));
+}
+
 TEST_F(AutomationFolderTest, SayNothingForASilentFailure) {
     script("silent", "exit 1");
     const auto outcome = automations.run("silent");
@@ -115,13 +132,13 @@ TEST_F(AutomationFolderTest, NameOneThatIsGone) {
     folder.remove("automations/gone");
     const auto outcome = automations.run("gone");
     EXPECT_FALSE(outcome.succeeded);
-    EXPECT_EQ(outcome.message, "gone: not found");
+    EXPECT_EQ(outcome.message, FailureText("gone: nenalezeno", "gone: not found"));
 }
 
 TEST_F(AutomationFolderTest, NameOneThatCannotStart) {
     folder.write("automations/odd", "#!/no/such/interpreter\n");
     std::filesystem::permissions(folder.path("automations/odd"), std::filesystem::perms::owner_all);
-    EXPECT_EQ(automations.run("odd").message, "odd: could not be started");
+    EXPECT_EQ(automations.run("odd").message, FailureText("odd: nelze spustit", "odd: could not be started"));
 }
 
 } // namespace

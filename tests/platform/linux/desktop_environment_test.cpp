@@ -35,6 +35,14 @@ TEST(DesktopEnvironment, IsX11OnlyWithoutWayland) {
     EXPECT_FALSE(environmentOf({{"DISPLAY", ""}}).isX11);
 }
 
+TEST(DesktopEnvironment, KnowsWhereThemesAreTheUsersOwnFirst) {
+    EXPECT_EQ(environmentOf({{"HOME", "/home/jana"}}).themeFolders,
+              (std::vector<std::string>{"/home/jana/.themes", "/home/jana/.local/share/themes",
+                                        "/usr/local/share/themes", "/usr/share/themes"}));
+    EXPECT_EQ(environmentOf({{"XDG_DATA_HOME", "/data"}, {"XDG_DATA_DIRS", "/a::relative:/b"}}).themeFolders,
+              (std::vector<std::string>{"/data/themes", "/a/themes", "/b/themes"}));
+}
+
 TEST(DesktopEnvironment, IgnoresAHomeThatIsNotAbsolute) {
     EXPECT_EQ(environmentOf({{"HOME", "/home/jana"}}).home, "/home/jana");
     EXPECT_EQ(environmentOf({{"HOME", "home"}}).home, "");

@@ -33,10 +33,10 @@ protected:
                     return trashFailure;
                 }};
     }
-    std::optional<std::string> perform(Desktop desktop, QuickAction action) {
+    std::optional<FailureText> perform(Desktop desktop, QuickAction action) {
         auto actions = actionsOn(desktop);
-        std::optional<std::string> told = "not called";
-        actions.perform(action, [&](std::optional<std::string> failure) { told = failure; });
+        std::optional<FailureText> told = "not called";
+        actions.perform(action, [&](std::optional<FailureText> failure) { told = std::move(failure); });
         EXPECT_EQ(told, "not called") << "the main thread waited";
         dispatcher.runAll();
         return told;
@@ -81,7 +81,8 @@ TEST_F(LinuxDesktopActionsTest, RunToolsByTheirPathWithALimitAndPlainMessages) {
 
 TEST_F(LinuxDesktopActionsTest, AskForThePresentStateFirst) {
     installed = {"gsettings"};
-    tools->results["/usr/bin/gsettings"] = ended(0, "'prefer-dark'\n");
+    tools->results["/usr/bin/gsettings"] =
+        ended(0, "org.gnome.desktop.interface color-scheme 'prefer-dark'\n");
     EXPECT_FALSE(perform(Desktop::gnome, QuickAction::toggleDarkMode));
     ASSERT_EQ(tools->requests.size(), 2U);
     EXPECT_EQ(tools->requests[1].arguments.back(), "default");
@@ -96,18 +97,21 @@ TEST_F(LinuxDesktopActionsTest, TellTheToolsLastWords) {
 TEST_F(LinuxDesktopActionsTest, NameAToolThatFailsWithoutAWord) {
     installed = {"gsettings"};
     tools->results["/usr/bin/gsettings"] = ended(3);
-    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode), "gsettings: ended with status 3");
+    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode),
+              FailureText("gsettings: skončilo se stavem 3", "gsettings: ended with status 3"));
     tools->results.clear();
-    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode), "gsettings: could not be started");
+    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode),
+              FailureText("gsettings: nelze spustit", "gsettings: could not be started"));
     auto late = ended(0);
     late.exitStatus = std::nullopt;
     late.exceededTimeLimit = true;
     tools->results["/usr/bin/gsettings"] = late;
-    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode), "gsettings: did not answer in time");
+    EXPECT_EQ(perform(Desktop::gnome, QuickAction::toggleDarkMode),
+              FailureText("gsettings: neodpovědělo včas", "gsettings: did not answer in time"));
 }
 
 TEST_F(LinuxDesktopActionsTest, TryTheNextMeansWhenOneFails) {
-    installed = {"dbus-send", "xdg-open"};
+    installed = {"dbus-send", "xdg-open", "thunar"};
     tools->results["/usr/bin/dbus-send"] = ended(1, "", "no such service\n");
     tools->results["/usr/bin/xdg-open"] = ended(0);
     EXPECT_FALSE(perform(Desktop::other, QuickAction::newFileManagerWindow));
@@ -115,11 +119,38 @@ TEST_F(LinuxDesktopActionsTest, TryTheNextMeansWhenOneFails) {
     EXPECT_EQ(tools->requests[1].executable, "/usr/bin/xdg-open");
 }
 
+TEST_F(LinuxDesktopActionsTest, LeaveAWindowOpenThatStaysInTheUsersLanguage) {
+    installed = {"xdg-open", "thunar"};
+    ChildProcessResult stays;
+    stays.exceededTimeLimit = true;
+    tools->results["/usr/bin/xdg-open"] = stays;
+    EXPECT_FALSE(perform(Desktop::other, QuickAction::newFileManagerWindow));
+    ASSERT_EQ(tools->requests.size(), 1U);
+    EXPECT_TRUE(tools->requests[0].mayGoOn);
+    EXPECT_TRUE(tools->requests[0].environment.empty());
+    tools->results["/usr/bin/xdg-open"] = ended(3, "", "no method available\n");
+    EXPECT_EQ(perform(Desktop::other, QuickAction::newFileManagerWindow), "no method available");
+}
+
+TEST_F(LinuxDesktopActionsTest, OfferNoWindowWithoutAFileManager) {
+    installed = {"dbus-send", "xdg-open"};
+    EXPECT_FALSE(actionsOn(Desktop::other).canDo(QuickAction::newFileManagerWindow));
+    EXPECT_EQ(perform(Desktop::other, QuickAction::newFileManagerWindow),
+              FailureText("Toto prostředí to nepodporuje.", "This desktop does not support it."));
+}
+
 TEST_F(LinuxDesktopActionsTest, EmptyTheTrashWithoutAToolWhereThereIsNone) {
     EXPECT_FALSE(perform(Desktop::other, QuickAction::emptyTrash));
     EXPECT_EQ(trashEmptied, 1);
     trashFailure = "a.txt: Permission denied";
     EXPECT_EQ(perform(Desktop::other, QuickAction::emptyTrash), "a.txt: Permission denied");
+}
+
+TEST_F(LinuxDesktopActionsTest, EmptyTheTrashThemselvesWhereTheToolCannot) {
+    installed = {"gio"};
+    tools->results["/usr/bin/gio"] = ended(1, "", "gio: trash:///: Operation not supported\n");
+    EXPECT_FALSE(perform(Desktop::other, QuickAction::emptyTrash));
+    EXPECT_EQ(trashEmptied, 1);
 }
 
 TEST_F(LinuxDesktopActionsTest, LeaveTheTrashToTheToolWhereThereIsOne) {

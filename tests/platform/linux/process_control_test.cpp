@@ -2,6 +2,7 @@
 
 #include "platform/linux/process_stat.h"
 #include "platform/linux/read_file.h"
+#include "support/temporary_folder.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -86,6 +87,28 @@ TEST(ProcessControl, AnEndedProcessIsNoFailureOfOurs) {
         pid = child.pid();
     }
     EXPECT_FALSE(LinuxProcessControl(Root(), notListed).terminate(pid));
+}
+
+TEST(ProcessControl, AProcessThatIsHeldIsTheOneThatIsReachedLater) {
+    WaitingChild child;
+    std::uint64_t listed = child.startTime();
+    LinuxProcessControl control(Root(), [&](std::int32_t) { return std::optional(listed); });
+    const auto terminate = control.terminator(child.pid());
+    // The number is listed for another process meanwhile: what is held does not change.
+    ++listed;
+    EXPECT_TRUE(terminate());
+    EXPECT_EQ(child.endedBy(), SIGTERM);
+    EXPECT_FALSE(terminate());
+}
+
+TEST(ProcessControl, ARecordedMachineSharesNoProcessWithThisOne) {
+    WaitingChild child;
+    const TemporaryFolder recorded;
+    recorded.write(fmt::format("proc/{}/stat", child.pid()),
+                   readFile(fmt::format("/proc/{}/stat", child.pid())).value_or(""));
+    LinuxProcessControl control(Root(recorded.path()), [&](std::int32_t) { return child.startTime(); });
+    EXPECT_FALSE(control.terminate(child.pid()));
+    EXPECT_TRUE(child.isAlive());
 }
 
 TEST(ProcessControl, GroupsAndTheFirstProcessAreRefused) {

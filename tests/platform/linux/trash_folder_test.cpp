@@ -68,6 +68,15 @@ TEST_F(TrashFolderTest, IsFoundInTheHomeAndOnVolumes) {
                                         (root / "shared/.Trash/1000").string()}));
 }
 
+TEST_F(TrashFolderTest, IsLookedForOnEveryVolumeOfTheMachine) {
+    folder.write("proc/self/mountinfo", "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                                        "30 22 8:17 / /media/jana/my\\040disk rw - vfat /dev/sdb1 rw\n"
+                                        "31 22 0:40 / /net rw - autofs systemd-1 rw\n");
+    EXPECT_EQ(trashVolumes(Root(folder.path())),
+              (std::vector<std::string>{folder.path("/"), folder.path("/media/jana/my disk")}));
+    EXPECT_TRUE(trashVolumes(Root(folder.path("nowhere"))).empty());
+}
+
 TEST_F(TrashFolderTest, OfNothingIsEmptyAlready) {
     EXPECT_FALSE(emptyTrashFolders({(root / "missing").string()}));
 }

@@ -1,10 +1,14 @@
 #include "platform/posix/posix_child_processes.h"
 
+#include "eventually.h"
+#include "support/temporary_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <signal.h>
 
+#include <filesystem>
 #include <future>
 #include <vector>
 
@@ -137,6 +141,43 @@ TEST(ChildProcesses, AToolThatEndsInTimeIsUntouchedByItsLimit) {
     EXPECT_EQ(result.exitStatus, 2);
 }
 
+ChildProcessRequest lastingShell(std::string script) {
+    auto request = shell(std::move(script));
+    request.mayGoOn = true;
+    return request;
+}
+
+TEST(ChildProcesses, OneThatMayGoOnIsAwaitedWithoutWhatItStarted) {
+    const TemporaryFolder folder;
+    const auto result = resultOf(lastingShell("(while [ ! -e '" + folder.path("go") +
+                                              "' ]; do sleep 0.05; done; echo late >&2; echo ended >'" +
+                                              folder.path("ended") + "') & echo early >&2; exit 3"));
+    EXPECT_EQ(result.exitStatus, 3);
+    EXPECT_EQ(result.errorTail, "early\n");
+    // What it started writes to where nobody reads any more, and lives on.
+    folder.write("go", "");
+    EXPECT_TRUE(eventually([&] { return std::filesystem::exists(folder.path("ended")); }));
+}
+
+TEST(ChildProcesses, OneThatMayGoOnIsLeftRunningAtItsLimit) {
+    const TemporaryFolder folder;
+    auto request = lastingShell("while [ ! -e '" + folder.path("go") +
+                                "' ]; do sleep 0.05; done; echo ended >'" + folder.path("ended") + "'");
+    request.timeLimit = 50ms;
+    const auto result = resultOf(request);
+    EXPECT_TRUE(result.exceededTimeLimit);
+    EXPECT_FALSE(result.exitStatus);
+    folder.write("go", "");
+    EXPECT_TRUE(eventually([&] { return std::filesystem::exists(folder.path("ended")); }));
+}
+
+TEST(ChildProcesses, OneThatMayGoOnKeepsTheEndOfAnyAmountOfErrors) {
+    const auto result = resultOf(lastingShell("head -c 3000000 /dev/zero >&2; printf last >&2"));
+    EXPECT_EQ(result.errorTail.size(), ChildProcesses::errorTailLength);
+    EXPECT_TRUE(result.errorTail.ends_with("last"));
+    EXPECT_EQ(result.exitStatus, 0);
+}
+
 TEST(ChildProcesses, SignalsThatAreIgnoredHereAreNotIgnoredThere) {
     const auto previous = ::signal(SIGTERM, SIG_IGN);
     EXPECT_FALSE(resultOf(shell("kill -TERM $$; echo survived")).exitStatus);
@@ -149,7 +190,10 @@ TEST(ChildProcesses, NoDescriptorIsLeftOpen) {
     request.keepErrorTail = true;
     for (int i = 0; i < 20; ++i)
         resultOf(request);
+    for (int i = 0; i < 20; ++i)
+        resultOf(lastingShell("echo error >&2"));
     POSIXChildProcesses().run({.executable = "/nowhere"});
+    POSIXChildProcesses().run({.executable = "/nowhere", .mayGoOn = true});
     EXPECT_EQ(openDescriptors(), before);
 }
 

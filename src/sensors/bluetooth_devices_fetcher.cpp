@@ -1,6 +1,6 @@
 #include "sensors/bluetooth_devices_fetcher.h"
 
-#include "sensors/random_uuid.h"
+#include "core/uuid.h"
 
 #include <algorithm>
 #include <array>
@@ -31,7 +31,7 @@ constexpr std::array<ClassSymbol, 8> symbols{{
 
 BluetoothDeviceInfo describe(const PairedBluetoothDevice& device) {
     const auto nameOrAddress = device.name ? device.name : device.address;
-    return {nameOrAddress.value_or("Bluetooth"), device.address ? *device.address : randomUUID(),
+    return {nameOrAddress.value_or("Bluetooth"), device.address ? *device.address : UUID::random().text(),
             device.isConnected, std::string(symbol(device.deviceClassMajor, device.deviceClassMinor))};
 }
 

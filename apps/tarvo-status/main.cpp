@@ -103,7 +103,8 @@ int run(const Options& options) {
         localization.emplace(preferences, linux_platform::systemLanguageCode(processEnvironment));
     };
     chooseLanguage();
-    Machine machine({.root = options.root}, clock, dispatcher);
+    // Without the details nobody asks for a sensor, and so none is looked for.
+    Machine machine({.root = options.root, .readsSensors = options.detail}, clock, dispatcher);
     const auto model = StatsModel::make(settings, clock, dispatcher, machine.readers(), nullptr);
 
     Printer printer(LineWriter(options.format, settings), localization, loop);

@@ -78,7 +78,9 @@ std::optional<Amounts> sumInOneUnit(const std::vector<PowerSupply>& batteries, P
 
 std::optional<BatteryCapacity> usable(const std::optional<Amounts>& amounts) {
     constexpr double smallest = 1000; // 1 mWh or 1 mAh
-    if (!amounts || amounts->second < smallest || amounts->first < 0) return std::nullopt;
+    constexpr double largest = 1e15;  // a thousand MWh: such a figure is a driver's mistake
+    if (!amounts || amounts->first < 0 || amounts->first > largest) return std::nullopt;
+    if (amounts->second < smallest || amounts->second > largest) return std::nullopt;
     return BatteryCapacity{std::min(amounts->first, amounts->second), amounts->second};
 }
 
@@ -101,9 +103,10 @@ std::optional<std::int64_t> meanPercentage(const std::vector<PowerSupply>& batte
     int counted = 0;
     for (const auto& battery : batteries) {
         const auto capacity = sumCapacity({battery});
-        if (!battery.capacity && !capacity) continue;
+        const bool tellsPercentage = battery.capacity && *battery.capacity >= 0 && *battery.capacity <= 100;
+        if (!tellsPercentage && !capacity) continue;
         total +=
-            battery.capacity ? static_cast<double>(*battery.capacity) : capacity->now / capacity->full * 100;
+            tellsPercentage ? static_cast<double>(*battery.capacity) : capacity->now / capacity->full * 100;
         ++counted;
     }
     return counted > 0 ? std::optional<std::int64_t>(std::llround(total / counted)) : std::nullopt;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace tarvo::linux_platform {
 namespace {
@@ -44,28 +45,31 @@ constexpr std::array<NumberAttribute, 15> numberAttributes{{
     {"cycle_count", &PowerSupply::cycleCount},
 }};
 
-PowerSupply readSupply(const std::string& name, const std::string& folder) {
-    PowerSupply supply;
-    supply.name = name;
-    for (const auto& attribute : textAttributes) {
-        supply.*attribute.field = readAttribute(folder + "/" + attribute.name).value_or("");
-    }
-    for (const auto& attribute : numberAttributes) {
-        supply.*attribute.field = readNumber<std::int64_t>(folder + "/" + attribute.name);
-    }
-    return supply;
-}
-
 bool isOfSystem(const PowerSupply& supply) {
     return supply.scope.empty() || supply.scope == "System";
 }
 
 } // namespace
 
+PowerSupply makePowerSupply(std::string name, const SupplyAttribute& attribute) {
+    PowerSupply supply;
+    supply.name = std::move(name);
+    for (const auto& text : textAttributes)
+        supply.*text.field = attribute(text.name).value_or("");
+    for (const auto& number : numberAttributes) {
+        const auto text = attribute(number.name);
+        if (text) supply.*number.field = parseNumber<std::int64_t>(*text);
+    }
+    return supply;
+}
+
 std::vector<PowerSupply> readPowerSupplies(const Root& root) {
     std::vector<PowerSupply> supplies;
-    for (const auto& name : folderEntries(root.path(powerSupplyClass)))
-        supplies.push_back(readSupply(name, powerSupplyFolder(root, name)));
+    for (const auto& name : folderEntries(root.path(powerSupplyClass))) {
+        const auto folder = powerSupplyFolder(root, name);
+        supplies.push_back(makePowerSupply(
+            name, [&folder](const char* attribute) { return readAttribute(folder + "/" + attribute); }));
+    }
     return supplies;
 }
 

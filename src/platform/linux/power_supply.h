@@ -3,6 +3,7 @@
 #include "platform/linux/root.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,6 +34,12 @@ struct PowerSupply {
     std::optional<std::int64_t> timeToEmptyNow;   ///< s
     std::optional<std::int64_t> cycleCount;
 };
+
+/// One attribute's line without the line feed at its end; absent when it cannot be read.
+using SupplyAttribute = std::function<std::optional<std::string>(const char* attribute)>;
+
+/// The entry that these attributes make; a number of another form counts as missing.
+PowerSupply makePowerSupply(std::string name, const SupplyAttribute& attribute);
 
 /// All entries by name. May wait for the firmware: not on the main thread.
 std::vector<PowerSupply> readPowerSupplies(const Root& root);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace tarvo::linux_platform {
 namespace {
 
@@ -49,6 +51,9 @@ TEST(BatteryCapacity, IsAbsentWhereNothingOrNextToNothingIsTold) {
     EXPECT_FALSE(sumCapacity({plainBattery("Full", 50)}).has_value());
     EXPECT_FALSE(sumCapacity({energyBattery("Full", 0, 0, 0)}).has_value());
     EXPECT_FALSE(sumCapacity({energyBattery("Full", -1, 50, 0)}).has_value());
+    auto wrong = energyBattery("Full", 1, 50, 0);
+    wrong.energyFull = std::numeric_limits<std::int64_t>::max();
+    EXPECT_FALSE(sumCapacity({wrong}).has_value());
 }
 
 TEST(BatteryPercentage, IsTheMeanOfWhatIsTold) {
@@ -59,6 +64,12 @@ TEST(BatteryPercentage, IsTheMeanOfWhatIsTold) {
     PowerSupply silent;
     EXPECT_EQ(meanPercentage({silent, plainBattery("Full", 45)}), 45);
     EXPECT_EQ(meanPercentage({silent}), std::nullopt);
+    for (const int nonsense : {-1, 101}) {
+        EXPECT_EQ(meanPercentage({plainBattery("Full", nonsense)}), std::nullopt);
+        auto battery = energyBattery("Full", 30, 50, 0);
+        battery.capacity = nonsense;
+        EXPECT_EQ(meanPercentage({battery}), 60) << "its energy tells better";
+    }
 }
 
 TEST(BatteryWearSum, NeedsBothFiguresOfEveryBattery) {

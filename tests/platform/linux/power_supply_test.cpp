@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace tarvo::linux_platform {
 namespace {
 
@@ -35,6 +37,15 @@ TEST(PowerSupplies, AreReadByNameWithWhatTheyTell) {
     EXPECT_EQ(supplies[1].currentNow, -1200000);
     EXPECT_EQ(supplies[1].energyNow, std::nullopt);
     EXPECT_EQ(supplies[1].scope, "");
+}
+
+TEST(PowerSupplies, NumbersOfAnotherFormAreMissing) {
+    for (const char* text : {"", " 1", "+1", "1.5", "0x10", "9223372036854775808", "1\n"}) {
+        const auto made = makePowerSupply("BAT0", [text](const char*) { return std::string(text); });
+        EXPECT_EQ(made.energyNow, std::nullopt) << text;
+    }
+    const auto lowest = makePowerSupply("BAT0", [](const char*) { return "-9223372036854775808"; });
+    EXPECT_EQ(lowest.currentNow, std::numeric_limits<std::int64_t>::min());
 }
 
 TEST(PowerSupplies, OnlyAnInsertedBatteryOfTheSystemCounts) {

@@ -10,8 +10,10 @@
 #include <QDBusMessage>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QStringList>
 
 #include <string>
+#include <utility>
 
 namespace tarvo {
 
@@ -26,7 +28,10 @@ public:
     }
 
     MockService(TestBus& bus, const char* mockTemplate, const char* name)
-        : connection_(bus.connect()), address_(bus.address()), template_(mockTemplate), name_(name) {}
+        : MockService(bus, QStringList{"--template", mockTemplate}, name) {}
+    /// A service of no template; `object` is what the mock takes: name, path and interface.
+    MockService(TestBus& bus, QStringList object, const char* name)
+        : connection_(bus.connect()), address_(bus.address()), object_(std::move(object)), name_(name) {}
     ~MockService() { stop(); }
     MockService(const MockService&) = delete;
     MockService& operator=(const MockService&) = delete;
@@ -35,8 +40,7 @@ public:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), address_);
         process_.setProcessEnvironment(environment);
-        process_.start(python(), {QStringLiteral("-m"), QStringLiteral("dbusmock"),
-                                  QStringLiteral("--system"), QStringLiteral("--template"), template_});
+        process_.start(python(), QStringList{"-m", "dbusmock", "--system"} + object_);
         return waitUntil([this] { return connection_.interface()->isServiceRegistered(name_).value(); });
     }
     void stop() {
@@ -65,7 +69,7 @@ private:
 
     QDBusConnection connection_;
     QString address_;
-    QString template_;
+    QStringList object_;
     QString name_;
     QProcess process_;
 };

@@ -8,10 +8,12 @@
 namespace tarvo::linux_platform {
 
 /// Walks over the values that busctl(1) prints for a call or for properties: words apart by blanks, a
-/// signature first, texts in quotes with escapes, arrays with their number of entries first.
+/// signature first, texts in quotes with escapes, arrays with their number of entries first. The text
+/// outlives this.
 class BusctlValues {
 public:
     explicit BusctlValues(std::string_view text) : text_(text) {}
+    explicit BusctlValues(std::string&& text) = delete;
 
     bool atEnd();
     /// Passes the signature when it is the expected one.

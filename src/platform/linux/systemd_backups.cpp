@@ -98,10 +98,11 @@ void SystemdBackups::addService(Bus bus, const SystemdUnit& unit, BackupState& s
         bus_.properties(bus, {service, unit.path, "org.freedesktop.systemd1.Service"}, {"Type", "Result"});
     const auto times = bus_.properties(bus, {service, unit.path, "org.freedesktop.systemd1.Unit"},
                                        {"InactiveEnterTimestamp"});
-    BusctlValues factValues(facts.value_or(""));
+    if (!facts || !times) return;
+    BusctlValues factValues(*facts);
     const auto type = textValue(factValues);
     const auto result = textValue(factValues);
-    BusctlValues timeValues(times.value_or(""));
+    BusctlValues timeValues(*times);
     const auto endedAt = unsignedValue(timeValues).value_or(0);
     if (type != "oneshot") return; // a service that runs for ever makes its backups unseen
     state.isRunning = state.isRunning || isWorking(unit);

@@ -1,6 +1,8 @@
 #include "command_line.h"
 #include "platform/desktop/display_check.h"
+#include "platform/desktop/paint_log.h"
 #include "program.h"
+#include "ui/elements/element.h"
 
 #include <fmt/format.h>
 
@@ -23,6 +25,8 @@ int runProgram(int argumentCount, char** arguments, const ProgramOptions& option
         return displayStatus;
     }
     desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION);
+    ui::installElementAccessibility();
+    desktop::logPaintsIfAsked();
     Program program(application, options);
     const int status = program.run();
     if (!program.finish()) std::_Exit(status);

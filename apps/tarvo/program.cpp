@@ -6,6 +6,10 @@
 #include "platform/desktop/appearance/dark_palette.h"
 #include "platform/desktop/desktop_window.h"
 #include "platform/desktop/network_manager_wifi.h"
+#include "platform/desktop/popover/pointer_position.h"
+#include "platform/desktop/popover/qt_popover.h"
+#include "platform/linux/application_index.h"
+#include "platform/linux/linux_process_icons.h"
 #include "platform/linux/linux_wifi_client.h"
 #include "platform/linux/process_name.h"
 #include "platform/linux/root.h"
@@ -29,6 +33,10 @@ std::string preferencePath() {
     return linux_platform::preferenceFilePath(processEnvironment).value_or(std::string());
 }
 
+std::string autostartPath() {
+    return linux_platform::autostartFilePath(processEnvironment).value_or(std::string());
+}
+
 std::string dataFolder() {
     return linux_platform::applicationDataFolder(processEnvironment).value_or(std::string());
 }
@@ -46,6 +54,22 @@ std::shared_ptr<WiFiClient> makeWiFi(const ProgramOptions& options) {
         std::make_unique<linux_platform::LinuxWiFiClient>(linux_platform::Root(options.root)));
 }
 
+// The desktop files are this system's, whichever machine is shown.
+std::unique_ptr<ProcessIcons> makeProcessIcons(const ProgramOptions& options, Clock& clock,
+                                               Dispatcher& dispatcher) {
+    const auto variable = [](const char* name) { return processEnvironment(name).value_or(std::string()); };
+    auto folders = linux_platform::applicationFolders(variable("XDG_DATA_HOME"), variable("HOME"),
+                                                      variable("XDG_DATA_DIRS"));
+    return std::make_unique<linux_platform::LinuxProcessIcons>(linux_platform::Root(options.root),
+                                                               std::move(folders), clock, dispatcher);
+}
+
+std::optional<Point> pointer() {
+    const auto position = desktop::pointerPosition();
+    if (!position) return std::nullopt;
+    return Point{static_cast<double>(position->x()), static_cast<double>(position->y())};
+}
+
 } // namespace
 
 Program::Program(desktop::QtApplication& application, const ProgramOptions& options)
@@ -59,6 +83,7 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
                 .https = options.root.empty() ? &https_ : nullptr,
                 .wifi = makeWiFi(options)},
                clock_, dispatcher_),
+      sharedDemand_(machine_.processDemand()),
       bluetooth_(bluetoothBus(options.root), options.root, dispatcher_), records_(dataFolder(), clock_),
       notifications_(QDBusConnection::sessionBus()),
       alerts_({.notifications = notifications_,
@@ -74,7 +99,9 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
                 .currentVersion = std::string(build_options::version)}),
       sharedUpdates_(updates_),
       model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), &records_.history())),
-      colorScheme_(QDBusConnection::sessionBus()), statusBar_(statusBarNeeds()),
+      colorScheme_(QDBusConnection::sessionBus()),
+      autostart_(autostartPath(), QCoreApplication::applicationFilePath().toStdString()),
+      statusBar_(statusBarNeeds()), panels_(panelServices(options)),
       delegate_(std::make_shared<AppDelegate>(appServices())),
       preferenceSubscription_(preferences_.observe([this] { preferencesChanged(); })),
       preferenceWatcher_(preferences_.path(), [this] { preferencesChangedElsewhere(); }),
@@ -102,6 +129,25 @@ desktop::DesktopStatusBar::Needs Program::statusBarNeeds() {
             .closedByUser = [this] { application_.terminate(); }};
 }
 
+PanelServices Program::panelServices(const ProgramOptions& options) {
+    return {.model = *model_,
+            .settings = settings_,
+            .localization = localization_,
+            .notifications = notificationCenter_,
+            .history = records_.history(),
+            .updates = updates_,
+            .processIcons = makeProcessIcons(options, clock_, dispatcher_),
+            .bluetoothBattery = &bluetooth_.batteryMonitor(),
+            .openDetailWindow = [this] { delegate_->openDetailWindow(); },
+            .quit = [this] { application_.terminate(); },
+            .complete = [this](ui::PanelContext& context) { completePanels(context); }};
+}
+
+void Program::completePanels(ui::PanelContext& context) {
+    context.launchesAtLogin = [this] { return autostart_.isOn(); };
+    context.setLaunchAtLogin = [this](bool launches) { autostart_.setOn(launches); };
+}
+
 AppServices Program::appServices() {
     return {.application = application_,
             .statusBar = statusBar_.bar(),
@@ -111,10 +157,10 @@ AppServices Program::appServices() {
             .dispatcher = dispatcher_,
             .model = model_,
             .makeDetailWindow = desktop::makeWindowFactory({}),
-            .makePopover = {},
-            .makePopoverContent = {},
+            .makePopover = desktop::makePopoverFactory(),
+            .makePopoverContent = [this] { return panels_.makePopoverContent(); },
             .makePreviewContent = {},
-            .pointerPosition = {},
+            .pointerPosition = pointer,
             .evaluateAlerts = [this](const StatsSnapshot& snapshot) { alerts_.evaluate(snapshot); },
             .registerHotKey = {},
             .checkForUpdatesIfDue = [this] { updates_.checkIfNeeded(); },

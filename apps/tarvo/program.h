@@ -10,6 +10,7 @@
 #include "history/alert_manager.h"
 #include "localization/localization_manager.h"
 #include "menubar/app_delegate.h"
+#include "panels.h"
 #include "platform/desktop/appearance/portal_color_scheme.h"
 #include "platform/desktop/desktop_notifications.h"
 #include "platform/desktop/desktop_status_bar.h"
@@ -18,6 +19,7 @@
 #include "platform/desktop/qt_dispatcher.h"
 #include "platform/desktop/symbols/symbol_images.h"
 #include "platform/desktop/termination_signals.h"
+#include "platform/linux/autostart.h"
 #include "platform/linux/preference_file.h"
 #include "platform/posix/https_helper_client.h"
 #include "platform/posix/posix_child_processes.h"
@@ -43,6 +45,8 @@ public:
 
 private:
     desktop::DesktopStatusBar::Needs statusBarNeeds();
+    PanelServices panelServices(const ProgramOptions& options);
+    void completePanels(ui::PanelContext& context);
     AppServices appServices();
     void preferencesChanged();
     void preferencesChangedElsewhere();
@@ -60,6 +64,7 @@ private:
     POSIXChildProcesses childProcesses_;
     HTTPSHelperClient https_;
     Machine machine_;
+    SharedInstance<ProcessDemandTracker> sharedDemand_;
     Bluetooth bluetooth_;
     StoredRecords records_;
     desktop::DesktopNotifications notifications_;
@@ -69,7 +74,9 @@ private:
     std::shared_ptr<StatsModel> model_;
     desktop::PortalColorScheme colorScheme_;
     desktop::SymbolImages symbols_;
+    linux_platform::Autostart autostart_;
     desktop::DesktopStatusBar statusBar_;
+    Panels panels_;
     std::shared_ptr<AppDelegate> delegate_;
     Subscription preferenceSubscription_;
     desktop::PreferenceFileWatcher preferenceWatcher_;

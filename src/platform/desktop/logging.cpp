@@ -3,5 +3,7 @@
 namespace tarvo::desktop {
 
 Q_LOGGING_CATEGORY(statusBarLog, "tarvo.statusbar", QtWarningMsg)
+Q_LOGGING_CATEGORY(popoverLog, "tarvo.popover", QtWarningMsg)
+Q_LOGGING_CATEGORY(paintLog, "tarvo.paint", QtWarningMsg)
 
 } // namespace tarvo::desktop

@@ -4,6 +4,7 @@
 #include "ui/style/metrics.h"
 
 #include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace tarvo::ui {
@@ -12,12 +13,15 @@ CardColumn::CardColumn(QWidget* parent) : QScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Always there, though it paints nothing without need: the cards keep their place and their margin.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBar(new ThinScrollBar(this));
     setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget(this);
     cards_ = new QVBoxLayout(content);
     cards_->setSpacing(metrics::regular);
-    cards_->setContentsMargins(metrics::medium, metrics::hair, metrics::medium, metrics::medium);
+    cards_->setContentsMargins(metrics::medium, metrics::hair, metrics::medium - verticalScrollBar()->width(),
+                               metrics::medium);
     cards_->addStretch();
     setWidget(content);
     // The ground is the popover's.

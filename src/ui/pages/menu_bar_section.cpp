@@ -4,12 +4,15 @@
 
 #include "menubar/menu_bar_module_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarvo::ui {
 namespace {
 
 constexpr TileLayout tileLayout{3, 1};
+
+constexpr std::array<std::string_view, 3> hosts{"auto", "tray", "bar"};
 
 BoundTile tileOf(MenuBarModule module, std::string_view key, Color color) {
     return {key, symbolName(module), {label(module, AppLanguage::cs), label(module, AppLanguage::en)}, color};
@@ -41,6 +44,7 @@ public:
         addSwitch(keys::stackedModularLabels, {.cs = "Skládané popisky", .en = "Stacked Labels"},
                   {.cs = "Např. \"CPU\" nad \"42%\" — užší než text v řádku",
                    .en = "e.g. \"CPU\" above \"42%\" — narrower than inline text"});
+        if (context.family != SystemFamily::macOS) addHost();
     }
 
 private:
@@ -51,6 +55,23 @@ private:
         }
         return t({.cs = "Zapnuté položky se sloučí do textu v liště.",
                   .en = "Enabled items are combined into the menu bar text."});
+    }
+
+    // Where the system has no status bar of its own for programs to stand in.
+    void addHost() {
+        auto* picker = new SegmentedControl([this](int index) {
+            bindings_.setText(keys::statusBarHost, hosts.at(static_cast<std::size_t>(index)));
+        });
+        picker->setObjectName(QStringLiteral("statusBarHost"));
+        addControl({.cs = "Umístění", .en = "Placement"}, picker, true);
+        onRefresh([this, picker] {
+            picker->setLabels({t({.cs = "Automaticky", .en = "Automatic"}),
+                               t({.cs = "Panel plochy", .en = "Desktop Tray"}),
+                               t({.cs = "Vlastní lišta", .en = "Own Bar"})});
+            const auto stored = preferenceString(context_.settings.defaults(), keys::statusBarHost);
+            const auto* place = std::find(hosts.begin(), hosts.end(), stored);
+            picker->setChosen(place == hosts.end() ? 0 : static_cast<int>(place - hosts.begin()));
+        });
     }
 
     void addAppearance() {

@@ -1,5 +1,6 @@
 #include "ui/pages/popover_view.h"
 
+#include "ui/controls/focus_order.h"
 #include "ui/pages/settings_page.h"
 
 #include <QEvent>
@@ -86,6 +87,11 @@ void PopoverView::resizeEvent(QResizeEvent* event) {
 bool PopoverView::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest) updateGeometry();
     return QWidget::event(event);
+}
+
+// Cards come and go, so that the order in which controls were made says nothing.
+bool PopoverView::focusNextPrevChild(bool next) {
+    return moveFocusInReadingOrder(*currentPage(), next);
 }
 
 } // namespace tarvo::ui

@@ -23,6 +23,10 @@ void SettingBindings::set(std::string_view key, double value) {
     store(key, value);
 }
 
+void SettingBindings::setText(std::string_view key, std::string_view value) {
+    store(key, std::string(value));
+}
+
 void SettingBindings::setAccentTheme(AccentTheme theme) {
     settings_.setAccentTheme(theme);
     notifications_.post(menuBarStyleChanged);

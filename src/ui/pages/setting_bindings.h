@@ -17,6 +17,7 @@ public:
     void set(std::string_view key, bool value);
     void set(std::string_view key, int value);
     void set(std::string_view key, double value);
+    void setText(std::string_view key, std::string_view value);
     void setAccentTheme(AccentTheme theme);
 
 private:

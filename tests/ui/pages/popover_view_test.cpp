@@ -65,6 +65,27 @@ TEST_F(PopoverViewTest, AFlagTurnedOffOnTheSettingsPageRemovesItsCard) {
     EXPECT_THAT(shownTexts(*view.statsPage()), Not(HasSubstr("Top Processes")));
 }
 
+TEST_F(PopoverViewTest, TabGoesFromTheHeaderThroughTheCardsToTheFooter) {
+    view.activateWindow();
+    buttonNamed(view, "Settings")->setFocus();
+    pressKey(*buttonNamed(view, "Settings"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), buttonNamed(view, "Live"));
+    buttonNamed(view, "Quit")->setFocus();
+    pressKey(*buttonNamed(view, "Quit"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), buttonNamed(view, "Open Detail Window…"));
+    pressKey(*QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(QApplication::focusWidget(), buttonNamed(view, "Quit"));
+}
+
+TEST_F(PopoverViewTest, TabStaysOnThePageThatIsShown) {
+    view.setShowSettings(true);
+    view.activateWindow();
+    auto* back = buttonNamed(*view.settingsPage(), "Back");
+    back->setFocus();
+    pressKey(*back, Qt::Key_Backtab);
+    EXPECT_TRUE(view.settingsPage()->isAncestorOf(QApplication::focusWidget()));
+}
+
 TEST_F(PopoverViewTest, BothPagesStandAtTheSamePlace) {
     view.setShowSettings(true);
     EXPECT_EQ(view.settingsPage()->geometry(), view.rect());

@@ -93,6 +93,19 @@ TEST_F(SettingsPageTest, ThePickerStoresTheMenuBarStyle) {
     EXPECT_EQ(styleChanges, 2);
 }
 
+TEST_F(SettingsPageTest, ThePlaceOfTheItemsIsStoredWhereTheSystemHasSeveral) {
+    EXPECT_EQ(control<SegmentedControl>("statusBarHost").chosen(), 0);
+    button("Own Bar").click();
+    EXPECT_EQ(preferenceString(parts.store, keys::statusBarHost), "bar");
+    button("Desktop Tray").click();
+    EXPECT_EQ(preferenceString(parts.store, keys::statusBarHost), "tray");
+    button("Automatic").click();
+    EXPECT_EQ(preferenceString(parts.store, keys::statusBarHost), "auto");
+    context.family = SystemFamily::macOS;
+    open();
+    EXPECT_EQ(buttonNamed(*page, "Own Bar"), nullptr);
+}
+
 TEST_F(SettingsPageTest, TheAccentIsStoredAndTold) {
     control<AccentThemePicker>("accentTheme").circle(AccentTheme::teal)->click();
     EXPECT_EQ(parts.settings.accentTheme(), AccentTheme::teal);

@@ -12,7 +12,7 @@ fi
 
 scripts/install-packages.sh build run
 cmake --preset release >/dev/null
-cmake --build --preset release
+cmake --build --preset release --target tarvo tarvo-status
 program=$PWD/build/release/bin/tarvo
 limited=()
 [ -z "$seconds" ] || limited=(timeout --preserve-status "$seconds")

@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include "detail.h"
 #include "https_helper_path.h"
 #include "localization/app_language.h"
 #include "platform/build_options.h"
@@ -156,10 +157,13 @@ AppServices Program::appServices() {
             .notificationCenter = notificationCenter_,
             .dispatcher = dispatcher_,
             .model = model_,
-            .makeDetailWindow = desktop::makeWindowFactory({}),
+            .makeDetailWindow = desktop::makeWindowFactory([this](QWidget& window) {
+                fillDetailWindow(window, detailContext(panels_.context(), machine_, bluetooth_, dispatcher_));
+            }),
             .makePopover = desktop::makePopoverFactory(),
             .makePopoverContent = [this] { return panels_.makePopoverContent(); },
-            .makePreviewContent = {},
+            .makePreviewContent =
+                [this](MenuBarModule module) { return makePreviewContent(module, panels_.context()); },
             .pointerPosition = pointer,
             .evaluateAlerts = [this](const StatsSnapshot& snapshot) { alerts_.evaluate(snapshot); },
             .registerHotKey = {},

@@ -1,8 +1,8 @@
 #include "ui/elements/ring_gauge.h"
 
-#include "ui/geometry/load_color.h"
 #include "ui/geometry/ring_geometry.h"
 #include "ui/style/metrics.h"
+#include "ui/style/painting.h"
 #include "ui/style/tabular_text.h"
 
 #include <QPainter>
@@ -10,13 +10,6 @@
 #include <cmath>
 
 namespace tarvo::ui {
-namespace {
-
-// Qt counts angles in sixteenths of a degree, from three o'clock, anticlockwise.
-constexpr int top = 90 * 16;
-constexpr double fullCircle = 360 * 16;
-
-} // namespace
 
 RingGauge::RingGauge(RingGaugeFields fields, QWidget* parent) : Element(std::move(fields), parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -39,9 +32,9 @@ void RingGauge::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     QRectF frame(0, 0, ringDiameter, ringDiameter);
     frame.moveLeft((width() - ringDiameter) / 2);
-    paintRing(painter, frame);
-
     const Theme shades = theme();
+    paintRing(painter, shades, frame, fields().value);
+
     painter.setPen(shades.color(colors::primary));
     const TabularText value(roleFont(TextRole::ringValue));
     value.draw(painter, frame, Qt::AlignHCenter, QString::fromStdString(ringText(fields().value)));
@@ -56,18 +49,6 @@ void RingGauge::paintEvent(QPaintEvent*) {
     const QRectF detailLine(0, titleLine.bottom(), width(), detail.metrics().height());
     detail.draw(painter, detailLine, Qt::AlignHCenter,
                 detail.elided(QString::fromStdString(fields().detail), width()));
-}
-
-void RingGauge::paintRing(QPainter& painter, const QRectF& frame) const {
-    const Theme shades = theme();
-    const QRectF circle =
-        frame.adjusted(ringLineWidth / 2, ringLineWidth / 2, -ringLineWidth / 2, -ringLineWidth / 2);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(shades.color(colors::primary.withOpacity(0.1)), ringLineWidth));
-    painter.drawEllipse(circle);
-    const QBrush arc = shades.gradient(loadColor(fields().value), frame);
-    painter.setPen(QPen(arc, ringLineWidth, Qt::SolidLine, Qt::RoundCap));
-    painter.drawArc(circle, top, -static_cast<int>(std::lround(ringFraction(fields().value) * fullCircle)));
 }
 
 } // namespace tarvo::ui

@@ -25,9 +25,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    void paintRing(QPainter& painter, const QRectF& frame) const;
 };
 
 } // namespace tarvo::ui

@@ -1,13 +1,20 @@
 #include "ui/style/painting.h"
 
+#include "ui/geometry/load_color.h"
+#include "ui/geometry/ring_geometry.h"
 #include "ui/style/symbol.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarvo::ui {
 namespace {
+
+// Qt counts angles in sixteenths of a degree, from three o'clock, anticlockwise.
+constexpr int topAngle = 90 * 16;
+constexpr double fullCircle = 360 * 16;
 
 void fillCapsule(QPainter& painter, const QRectF& area, const QBrush& brush) {
     const double radius = std::min(area.width(), area.height()) / 2;
@@ -34,6 +41,17 @@ void paintBar(QPainter& painter, const Theme& theme, const QRectF& track, double
     fillCapsule(painter, track, theme.color(colors::primary.withOpacity(trackOpacity)));
     const QRectF filled(track.topLeft(), QSizeF(fillWidth, track.height()));
     fillCapsule(painter, filled, theme.gradient(color, filled));
+}
+
+void paintRing(QPainter& painter, const Theme& theme, const QRectF& frame, double percent) {
+    const QRectF circle =
+        frame.adjusted(ringLineWidth / 2, ringLineWidth / 2, -ringLineWidth / 2, -ringLineWidth / 2);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(theme.color(colors::primary.withOpacity(0.1)), ringLineWidth));
+    painter.drawEllipse(circle);
+    const QBrush arc = theme.gradient(loadColor(percent), frame);
+    painter.setPen(QPen(arc, ringLineWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(circle, topAngle, -static_cast<int>(std::lround(ringFraction(percent) * fullCircle)));
 }
 
 QPainterPath linePath(const std::vector<DrawPoint>& points) {

@@ -28,6 +28,9 @@ void paintIconTile(QPainter& painter, const Theme& theme, const QRectF& area, co
 void paintBar(QPainter& painter, const Theme& theme, const QRectF& track, double trackOpacity,
               double fillWidth, Color color);
 
+/// A percentage as a ring: the arc runs clockwise from the top in the colour of the load.
+void paintRing(QPainter& painter, const Theme& theme, const QRectF& frame, double percent);
+
 /// The open line through the points; empty below two.
 QPainterPath linePath(const std::vector<DrawPoint>& points);
 /// The area between the line and the bottom of the frame.

@@ -2,16 +2,19 @@
 """Whole programs side by side in one run: processor time a refresh, wake-ups, memory and start-up, ours and others.
 
 Every program refreshes every 2 seconds for the same time, one after the other, under a virtual display with a window
-manager. Processor time counts child processes. A program that is not installed is left out.
+manager. Processor time counts child processes. A program is shown once the window manager knows its window, or once it
+has printed something. A program that is not installed is left out.
 
-Usage: bench/programs.py [--seconds N] [BUILD-FOLDER]     (scripts/install-packages.sh virtual-display bench test)
+Usage: bench/programs.py [--seconds N] [--rounds N] [BUILD-FOLDER]     (scripts/install-packages.sh virtual-display bench test)
 """
 import argparse
 import os
 import pathlib
 import re
+import select
 import shutil
 import signal
+import statistics
 import subprocess
 import sys
 import tempfile
@@ -20,6 +23,7 @@ import time
 HERE = pathlib.Path(__file__).resolve().parent
 TICK = os.sysconf("SC_CLK_TCK")
 REFRESH = 2.0
+STARTS = 5
 
 I3STATUS = """general { interval = 2 }
 order += "cpu_usage"
@@ -101,28 +105,63 @@ def memory(pid):
     return resident / 1024, private / 1024
 
 
-def measure(name, command, seconds, environment):
+def end(process):
+    os.killpg(process.pid, signal.SIGTERM)
+    try:
+        process.wait(5)
+    except subprocess.TimeoutExpired:
+        os.killpg(process.pid, signal.SIGKILL)
+        process.wait()
+
+
+def launch(command, output, environment):
+    return subprocess.Popen(command, stdout=output, stderr=subprocess.DEVNULL, env=environment, start_new_session=True)
+
+
+def started_in(command, environment):
+    """Milliseconds until the window manager knows a window of the program, or until its first text; None for neither."""
+    spy = subprocess.Popen(["xprop", "-root", "-spy", "_NET_CLIENT_LIST"], stdout=subprocess.PIPE)
+    try:
+        spy.stdout.readline()
+        with tempfile.TemporaryFile() as output:
+            begin = time.monotonic()
+            process = launch(command, output, environment)
+            shown = None
+            while shown is None and time.monotonic() < begin + 5:
+                if select.select([spy.stdout], [], [], 0.0005)[0] or os.fstat(output.fileno()).st_size > 0:
+                    shown = 1000 * (time.monotonic() - begin)
+            end(process)
+    finally:
+        spy.kill()
+        spy.communicate()
+    time.sleep(0.3)  # the window's going is not to be taken for the next one's coming
+    return shown
+
+
+def running(command, seconds, environment):
+    """CPU milliseconds a refresh, voluntary switches a second, resident and private dirty MiB; None when it ends."""
     with tempfile.TemporaryFile() as output:
-        process = subprocess.Popen(command, stdout=output, stderr=subprocess.DEVNULL, env=environment,
-                                   start_new_session=True)
+        process = launch(command, output, environment)
         time.sleep(4)
         if process.poll() is not None:
-            print(f"| {name} | ended with status {process.returncode} | | | |")
-            return
+            return None
         before, woken, begin = processor_seconds(process.pid), switches(process.pid), time.monotonic()
         time.sleep(seconds)
         spent = processor_seconds(process.pid) - before
         elapsed = time.monotonic() - begin
-        wakeups = (switches(process.pid) - woken) / elapsed
-        resident, private = memory(process.pid)
-        os.killpg(process.pid, signal.SIGTERM)
-        try:
-            process.wait(5)
-        except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
-    print(f"| {name} | {1000 * spent / (elapsed / REFRESH):.2f} | {wakeups:.2f} | {resident:.1f} | {private:.1f} |",
-          flush=True)
+        figures = (1000 * spent / (elapsed / REFRESH), (switches(process.pid) - woken) / elapsed, *memory(process.pid))
+        end(process)
+    return figures
+
+
+def medians(rows):
+    return [statistics.median(known) if (known := [value for value in column if value is not None]) else None
+            for column in zip(*rows)]
+
+
+def print_row(label, rows):
+    cells = ["" if value is None else f"{value:.{digits}f}" for value, digits in zip(medians(rows), (2, 2, 1, 1, 0))]
+    print(f"| {label} | " + " | ".join(cells) + " |", flush=True)
 
 
 def programs(build, folder):
@@ -145,22 +184,31 @@ def programs(build, folder):
 def main():
     arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     arguments.add_argument("--seconds", type=float, default=30)
+    arguments.add_argument("--rounds", type=int, default=3, help="each program once a round; medians are printed")
     arguments.add_argument("build", nargs="?", type=pathlib.Path, default=HERE.parent / "build/release")
     options = arguments.parse_args()
     if "DISPLAY" not in os.environ:
         wrapper = HERE.parent / "scripts/with-virtual-display.sh"
         os.execv(wrapper, [str(wrapper), sys.executable, *sys.argv])
 
-    print("| program | CPU ms a refresh | voluntary switches a second | RSS MiB | private dirty MiB |")
-    print("|---|---|---|---|---|", flush=True)
     with tempfile.TemporaryDirectory() as name:
-        folder = pathlib.Path(name)
-        for label, command, extra in programs(options.build, folder):
-            if not shutil.which(str(command[0])):
-                print(f"| {label} | not installed | | | |")
-                continue
-            environment = {**os.environ, "XDG_CONFIG_HOME": name, "XDG_DATA_HOME": name, **extra}
-            measure(label, [str(part) for part in command], options.seconds, environment)
+        rows = {}
+        for _ in range(options.rounds):
+            for label, command, extra in programs(options.build, pathlib.Path(name)):
+                command = [str(part) for part in command]
+                if not shutil.which(command[0]):
+                    print(f"{label}: not installed", file=sys.stderr)
+                    continue
+                environment = {**os.environ, "XDG_CONFIG_HOME": name, "XDG_DATA_HOME": name, **extra}
+                if (figures := running(command, options.seconds, environment)) is None:
+                    print(f"{label}: ended by itself", file=sys.stderr)
+                    continue
+                start = statistics.median([started_in(command, environment) or 0.0 for _ in range(STARTS)]) or None
+                rows.setdefault(label, []).append((*figures, start))
+    print("| program | CPU ms a refresh | voluntary switches a second | RSS MiB | private dirty MiB | shown after ms |")
+    print("|---|---|---|---|---|---|")
+    for label, found in rows.items():
+        print_row(label, found)
 
 
 if __name__ == "__main__":

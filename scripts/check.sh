@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The checks that need no build: format, layering, unlisted files, shell syntax. One line each: OK or FAIL.
+# The checks that need no build: format, layering, unlisted files, links, shell syntax. One line each: OK or FAIL.
 # Usage: scripts/check.sh [--tidy [BASE]]      --tidy also runs clang-tidy over what changed since BASE (HEAD~1)
 set -uo pipefail
 cd "$(dirname "$0")/.."
@@ -24,6 +24,7 @@ tidy() {
 report format format
 report layering python3 scripts/check_layering.py
 report "unlisted files" python3 scripts/check_unlisted.py
+report links python3 scripts/check_links.py
 report "shell syntax" shell_syntax
 [ "${1:-}" != --tidy ] || report "clang-tidy" tidy "${2:-HEAD~1}"
 exit $failed

@@ -1,6 +1,7 @@
 #include "platform/linux/preference_file.h"
 
 #include "support/manual_clock.h"
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
@@ -173,9 +174,9 @@ TEST_F(PreferenceFileTest, WhereNoFolderCanBeMadeAValueHoldsForThisRun) {
 }
 
 TEST_F(PreferenceFileTest, InAReadOnlyFolderAValueHoldsForThisRunAndTheFileStays) {
-    if (::geteuid() == 0) GTEST_SKIP() << "permissions do not bind root";
     folder.write("tarvo/preferences.json", "{\"a\": 1}");
     ASSERT_EQ(::chmod(folder.path("tarvo").c_str(), 0500), 0);
+    const OrdinaryUser user(folder);
     auto store = open();
     store.set("a", std::int64_t{2});
     EXPECT_EQ(store.object("a"), PreferenceValue(std::int64_t{2}));

@@ -1,11 +1,13 @@
 """The program's own bar on a real X server."""
 import re
+import shutil
 import signal
 import unittest
 
 from support.case import ProgramCase
 from support.program import write_preferences
 from support.waiting import wait_for
+from support.xfce import UPPER_EDGE, XfcePanel
 
 WIDTH = 1280
 BAR = f"{WIDTH}x26+0+0"
@@ -29,6 +31,25 @@ class Bar(ProgramCase):
         geometry = self.session.run("xdotool", "getwindowgeometry", "--shell", dock)
         self.assertIn("X=0\nY=0\nWIDTH=1280\nHEIGHT=26", geometry)
         wait_for(lambda: "0, 26, 1280, 694" in self.session.run("xprop", "-root", "_NET_WORKAREA"), "the work area")
+
+    def place(self, window):
+        values = dict(line.split("=") for line in self.session.run("xdotool", "getwindowgeometry", "--shell", window).split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    @unittest.skipUnless(shutil.which("xfce4-panel"), "needs xfce4-panel")
+    def test_stands_below_another_dock_as_long_as_that_is_there(self):
+        panel = XfcePanel(self.session, UPPER_EDGE)
+        left, top, width, height = panel.geometry()
+        self.assertEqual((left, top, width), (0, 0, WIDTH))
+        dock = self.start_bar().wait_for_window("DOCK")
+        wait_for(lambda: self.place(dock) == (0, height, WIDTH, 26), f"a bar at {height}, not at {self.place(dock)}")
+        wait_for(lambda: f"= 0, 0, {height + 26}, 0, 0, 0, 0, 0, 0, 1279, 0, 0"
+                 in self.property(dock, "_NET_WM_STRUT_PARTIAL"), "a strip below the panel's")
+        self.picture("bar-below-panel", crop=f"{WIDTH}x{height + 26}+0+0")
+        panel.kill()
+        wait_for(lambda: self.place(dock) == (0, 0, WIDTH, 26), "a bar at the upper edge")
+        panel.start()
+        wait_for(lambda: self.place(dock) == (0, height, WIDTH, 26), "a bar below the panel that came back")
 
     def test_shows_the_text_line(self):
         program = self.start_bar()
@@ -92,7 +113,7 @@ class Bar(ProgramCase):
         program = self.start_bar()
         program.wait_for_painted("CPU 23% · RAM 48%")
         self.click(WIDTH - 40, 13, 3)
-        program.wait_for_window("NORMAL")  # the menu; nothing else is open
+        program.wait_for_window("POPUP_MENU")
         self.picture("bar-menu", crop="400x120+880+0")
         self.press("q")
         self.assertEqual(program.wait_for_end(), 0)

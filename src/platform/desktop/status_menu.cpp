@@ -1,8 +1,11 @@
 #include "platform/desktop/status_menu.h"
 
+#include "platform/desktop/bar/x11_menu.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QWindow>
 
 namespace tarvo::desktop {
 
@@ -29,6 +32,11 @@ StatusMenu::StatusMenu(const Menu& menu, QWidget* parent) : QMenu(parent) {
         }
         if (row.action) connect(action, &QAction::triggered, this, row.action);
     }
+}
+
+void StatusMenu::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) declarePopupMenu(*windowHandle());
+    QMenu::showEvent(event);
 }
 
 void StatusMenu::keyPressEvent(QKeyEvent* event) {

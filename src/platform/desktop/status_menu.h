@@ -15,6 +15,7 @@ public:
     explicit StatusMenu(const Menu& menu, QWidget* parent = nullptr);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -3,17 +3,19 @@
 #include <net/if.h>
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
+#include <string_view>
 
 namespace tarvo::linux_platform {
 
 namespace {
 
-// "0x1003" and a line feed, read for every interface at every tick.
-std::optional<unsigned> parseFlags(std::optional<std::string_view> text) {
-    if (!text || text->size() < 3 || (*text)[0] != '0' || (*text)[1] != 'x') return std::nullopt;
-    if (text->back() == '\n') text->remove_suffix(1);
-    return parseHexadecimal<unsigned>(*text);
+// "0x1003" and a line feed.
+std::optional<unsigned> parseFlags(std::string_view text) {
+    if (text.size() < 3 || text[0] != '0' || text[1] != 'x') return std::nullopt;
+    if (text.back() == '\n') text.remove_suffix(1);
+    return parseHexadecimal<unsigned>(text);
 }
 
 bool add(const LinkStatistics& statistics, LinkStatistics& sum) {
@@ -69,7 +71,7 @@ void LinkCounters::findRoles() {
         const auto role = interfaceRole(facts);
         hasHardware_ = hasHardware_ || role == InterfaceRole::hardware;
         auto flagsFile = KeptFile(root_.path("/sys/class/net/" + name + "/flags"));
-        interfaces_.push_back({std::move(name), role, facts.flags, std::move(flagsFile)});
+        interfaces_.push_back({std::move(name), role, facts.flags, std::move(flagsFile), {}, 0});
     }
 }
 
@@ -81,13 +83,25 @@ bool LinkCounters::readFlags() {
     for (auto& interface : interfaces_) {
         const bool isStandIn = interface.role == InterfaceRole::standIn;
         if (interface.role == InterfaceRole::none || (isStandIn && hasHardware_)) continue;
-        const auto flags = parseFlags(interface.flagsFile.read());
-        interface.flags = flags.value_or(0);
-        if (!flags) interface.name.clear();
+        if (!readFlagsOf(interface)) interface.name.clear();
         const bool isUp = (interface.flags & IFF_UP) != 0;
         hardwareIsUp = hardwareIsUp || (isUp && interface.role != InterfaceRole::dialUp);
     }
     return hardwareIsUp;
+}
+
+// Done for every interface at every tick, so that only a text that differs is parsed.
+bool LinkCounters::readFlagsOf(Interface& interface) {
+    const auto text = interface.flagsFile.readBeginning(flagsRoom);
+    if (text && text->size() == interface.flagsLength &&
+        std::memcmp(text->data(), interface.flagsText.data(), text->size()) == 0) {
+        return true;
+    }
+    const bool isWhole = text && text->size() < flagsRoom;
+    const auto flags = isWhole ? parseFlags(*text) : std::nullopt;
+    interface.flags = flags.value_or(0);
+    interface.flagsLength = flags ? text->copy(interface.flagsText.data(), flagsRoom) : 0;
+    return flags.has_value();
 }
 
 bool LinkCounters::counts(const Interface& interface, bool hardwareIsUp) const {

@@ -6,6 +6,8 @@
 #include "platform/linux/root.h"
 #include "platform/network_interfaces.h"
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -23,16 +25,22 @@ public:
     bool read(std::vector<LinkEntry>& entries);
 
 private:
+    static constexpr std::size_t flagsRoom = 16; ///< more than "0xffffffff" and a line feed
+
     struct Interface {
         std::string name;
         InterfaceRole role;
         unsigned flags; ///< as last read
         KeptFile flagsFile;
+        /// What the flags were read from; most ticks find the same again.
+        std::array<char, flagsRoom> flagsText{};
+        std::size_t flagsLength = 0;
     };
 
     bool namesAreKnown() const;
     void findRoles();
     bool readFlags();
+    static bool readFlagsOf(Interface& interface);
     bool counts(const Interface& interface, bool hardwareIsUp) const;
 
     Root root_;

@@ -69,6 +69,7 @@ BarHost::BarHost(SymbolImages& symbols, std::function<void()> closedByUser)
         watchScreen();
         window_->winId();
         place();
+        others_.emplace([this] { placeLater(); });
     }
     window_->show();
 }
@@ -94,8 +95,15 @@ void BarHost::watchScreen() {
     connect(screen, &QScreen::availableGeometryChanged, this, &BarHost::place, Qt::UniqueConnection);
 }
 
+void BarHost::placeLater() {
+    if (isToBePlaced_) return;
+    isToBePlaced_ = true;
+    QMetaObject::invokeMethod(this, &BarHost::place, Qt::QueuedConnection);
+}
+
 // The available geometry holds our own strip too, so that the others' reservations are asked for one by one.
 void BarHost::place() {
+    isToBePlaced_ = false;
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
     const double ratio = screen->devicePixelRatio();

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/bar/bar_font.h"
 #include "platform/desktop/bar/bar_window.h"
+#include "platform/desktop/bar/x11_client_watcher.h"
 #include "platform/desktop/status_bar_host.h"
 #include "platform/desktop/symbols/symbol_images.h"
 
@@ -9,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tarvo::desktop {
 
@@ -30,6 +32,7 @@ public:
 
 private:
     void watchScreen();
+    void placeLater();
     /// Puts the dock under what other programs reserve at the top edge.
     void place();
 
@@ -37,6 +40,8 @@ private:
     BarFonts fonts_;
     std::unique_ptr<BarWindow> window_;
     bool docks_ = false;
+    bool isToBePlaced_ = false;
+    std::optional<X11ClientWatcher> others_;
 };
 
 } // namespace tarvo::desktop

@@ -1,14 +1,13 @@
 #include "platform/desktop/bar/x11_dock.h"
 
-#include <QGuiApplication>
-
-#include <xcb/xcb.h>
+#include "platform/desktop/bar/x11_connection.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -19,6 +18,7 @@ namespace {
 
 constexpr std::uint32_t onAllDesktops = 0xffffffff;
 constexpr std::uint32_t maximumClients = 4096;
+constexpr std::size_t plainStrutFields = 4;
 constexpr std::size_t strutFields = 12; ///< left, right, top, bottom, then start and end of each
 
 enum AtomIndex : std::size_t {
@@ -44,11 +44,6 @@ constexpr std::array<std::string_view, atomCount> atomNames{
 template <typename Reply>
 std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
     return {reply, &std::free};
-}
-
-xcb_connection_t* connection() {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
 }
 
 std::array<xcb_atom_t, atomCount> internAtoms(xcb_connection_t* display) {
@@ -79,25 +74,56 @@ std::vector<std::uint32_t> propertyValues(xcb_connection_t* display, xcb_get_pro
     return values;
 }
 
-xcb_window_t rootWindow(xcb_connection_t* display) {
-    return xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
-}
-
-/// Height of a partial strut at the top, 0 where it does not touch the columns.
+/// Height of a strut at the top, 0 where it does not touch the columns. A plain one reaches from side to
+/// side.
 int topStrut(const std::vector<std::uint32_t>& strut, int left, int right) {
+    if (strut.size() == plainStrutFields) return static_cast<int>(strut[2]);
     if (strut.size() < strutFields) return 0;
     const bool touches = static_cast<int>(strut[8]) <= right && static_cast<int>(strut[9]) >= left;
     return touches ? static_cast<int>(strut[2]) : 0;
 }
 
+struct Reservation {
+    xcb_window_t dock;
+    int height;
+};
+
+/// What the clients of the window manager reserve at the top above these columns.
+std::vector<Reservation> topReservations(xcb_connection_t* display, int left, int right) {
+    const auto atoms = internAtoms(display);
+    const auto clients =
+        propertyValues(display, xcb_get_property(display, 0, x11Root(display), atoms[clientList],
+                                                 XCB_ATOM_WINDOW, 0, maximumClients));
+    const auto ask = [&](xcb_window_t client, AtomIndex name) {
+        return xcb_get_property(display, 0, client, atoms[name], XCB_ATOM_CARDINAL, 0, strutFields);
+    };
+    std::vector<std::array<xcb_get_property_cookie_t, 2>> cookies;
+    for (const xcb_window_t client : clients)
+        cookies.push_back({ask(client, strutPartial), ask(client, strut)});
+    std::vector<Reservation> reservations;
+    for (std::size_t index = 0; index < clients.size(); ++index) {
+        const auto partial = propertyValues(display, cookies[index][0]);
+        const auto plain = propertyValues(display, cookies[index][1]);
+        const int height = topStrut(partial.empty() ? plain : partial, left, right);
+        if (height > 0) reservations.push_back({clients[index], height});
+    }
+    return reservations;
+}
+
+int topEdge(xcb_connection_t* display, xcb_window_t window) {
+    const auto cookie = xcb_translate_coordinates(display, window, x11Root(display), 0, 0);
+    const auto reply = owned(xcb_translate_coordinates_reply(display, cookie, nullptr));
+    return reply ? reply->dst_y : 0;
+}
+
 } // namespace
 
 bool canDock() {
-    return connection() != nullptr;
+    return x11Connection() != nullptr;
 }
 
 void dockAtTop(QWindow& window, const QRect& strip) {
-    xcb_connection_t* display = connection();
+    xcb_connection_t* display = x11Connection();
     if (!display) return;
     const auto atoms = internAtoms(display);
     const auto id = static_cast<xcb_window_t>(window.winId());
@@ -125,22 +151,14 @@ void dockAtTop(QWindow& window, const QRect& strip) {
 }
 
 int topReservedByOthers(const QWindow& window, int left, int right) {
-    xcb_connection_t* display = connection();
+    xcb_connection_t* display = x11Connection();
     if (!display) return 0;
-    const auto atoms = internAtoms(display);
     const auto own = static_cast<xcb_window_t>(window.winId());
-    const auto clients =
-        propertyValues(display, xcb_get_property(display, 0, rootWindow(display), atoms[clientList],
-                                                 XCB_ATOM_WINDOW, 0, maximumClients));
-    std::vector<xcb_get_property_cookie_t> cookies;
-    for (const xcb_window_t client : clients) {
-        if (client == own) continue;
-        cookies.push_back(
-            xcb_get_property(display, 0, client, atoms[strutPartial], XCB_ATOM_CARDINAL, 0, strutFields));
-    }
+    const int lowest = window.isVisible() ? topEdge(display, own) : std::numeric_limits<int>::max();
     int top = 0;
-    for (const auto cookie : cookies)
-        top = std::max(top, topStrut(propertyValues(display, cookie), left, right));
+    for (const auto& [dock, reserved] : topReservations(display, left, right)) {
+        if (dock != own && reserved > top && topEdge(display, dock) <= lowest) top = reserved;
+    }
     return top;
 }
 

@@ -14,7 +14,8 @@ bool canDock();
 void dockAtTop(QWindow& window, const QRect& strip);
 
 /// Height in native pixels that other programs' docks reserve at the top of the root window above these
-/// columns.
+/// columns. Once the window is shown, docks that stand lower do not count, so that two bars do not drive each
+/// other down the screen.
 int topReservedByOthers(const QWindow& window, int left, int right);
 
 } // namespace tarvo::desktop

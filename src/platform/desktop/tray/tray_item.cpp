@@ -23,11 +23,11 @@ TrayItem::TrayItem(StatusItemModel& model, const QString& id, TrayTraits traits,
                    SymbolImages& symbols, std::chrono::milliseconds readingLimit,
                    std::function<void(TrayItem&)> removed)
     : connectionName_(QUuid::createUuid().toString()), removed_(std::move(removed)),
-      notifier_(new StatusNotifierItem(&exported_, model, id, traits, fonts, symbols)) {
+      readingLimit_(readingLimit),
+      notifier_(new StatusNotifierItem(&exported_, model, id, traits, fonts, symbols)), pause_(traits.pause) {
     new DBusMenu(&exported_, [&model] { return model.contextMenu(); });
-    readingLimit_.setSingleShot(true);
-    readingLimit_.setInterval(readingLimit);
-    QObject::connect(&readingLimit_, &QTimer::timeout, &exported_, [this] { finishRegistration(); });
+    wait_.setSingleShot(true);
+    QObject::connect(&wait_, &QTimer::timeout, &exported_, [this] { finishRegistration(); });
     // The answer with the picture leaves first.
     notifier_->pictureRead = [this] {
         if (registrationDone_)
@@ -66,17 +66,23 @@ void TrayItem::registerItem(std::function<void()> done) {
 
 void TrayItem::replied(bool isError) {
     hasReply_ = true;
-    if (isError || isRead_) return finishRegistration();
-    readingLimit_.start();
+    if (isError) return finishRegistration();
+    if (isRead_) return waitForPause();
+    wait_.start(readingLimit_);
 }
 
 void TrayItem::pictureRead() {
     isRead_ = true;
-    if (hasReply_) finishRegistration();
+    if (hasReply_) waitForPause();
+}
+
+// Begins anew with each reading.
+void TrayItem::waitForPause() {
+    if (registrationDone_) wait_.start(pause_);
 }
 
 void TrayItem::finishRegistration() {
-    readingLimit_.stop();
+    wait_.stop();
     if (const auto done = std::exchange(registrationDone_, {})) done();
 }
 

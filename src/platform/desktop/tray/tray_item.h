@@ -32,8 +32,8 @@ public:
     /// The connection is open: puts the item on it.
     void exportTo(QDBusConnection bus);
     /// Tells the tray of the item. `done` runs on the main thread once the tray has replied and read the
-    /// picture, which is when trays put an item in its place; without waiting longer than a second for the
-    /// reading.
+    /// picture, which is when trays put an item in its place, and the tray's pause is over; without waiting
+    /// longer than a second for the reading.
     void registerItem(std::function<void()> done);
 
     void changed(StatusItemPart part) override;
@@ -42,17 +42,20 @@ public:
 private:
     void replied(bool isError);
     void pictureRead();
+    void waitForPause();
     void finishRegistration();
 
     QString connectionName_;
     std::function<void(TrayItem&)> removed_;
+    std::chrono::milliseconds readingLimit_;
     QObject exported_;
     StatusNotifierItem* notifier_;
     bool isExported_ = false;
     std::function<void()> registrationDone_; ///< empty while none is under way
     bool hasReply_ = false;
     bool isRead_ = false;
-    QTimer readingLimit_;
+    std::chrono::milliseconds pause_;
+    QTimer wait_; ///< for the reading, then for the pause after it
 };
 
 } // namespace tarvo::desktop

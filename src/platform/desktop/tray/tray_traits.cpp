@@ -12,7 +12,10 @@ struct KnownTray {
     TrayTraits traits;
 };
 
-constexpr TrayTraits xfceTraits{.keepsAspect = false, .showsLabel = false, .reversed = true};
+// Its panel writes each new item into its settings and reads those back; an item that comes in between is
+// lost.
+constexpr TrayTraits xfceTraits{
+    .keepsAspect = false, .showsLabel = false, .reversed = true, .pause = std::chrono::milliseconds{200}};
 
 constexpr std::array knownTrays{
     KnownTray{"waybar", {.keepsAspect = true, .showsLabel = false, .reversed = false}},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string_view>
 
 namespace tarvo::desktop {
@@ -9,6 +10,8 @@ struct TrayTraits {
     bool keepsAspect = false; ///< shows a wide picture wide; else it is squeezed into a square
     bool showsLabel = false;  ///< shows the text label beside the picture
     bool reversed = false;    ///< puts the item that was registered last first
+    /// What the tray needs after it has read an item, before the next one may come.
+    std::chrono::milliseconds pause{0};
     bool operator==(const TrayTraits&) const = default;
 };
 

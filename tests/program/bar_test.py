@@ -1,4 +1,5 @@
 """The program's own bar on a real X server."""
+import math
 import re
 import shutil
 import signal
@@ -57,10 +58,11 @@ class Bar(ProgramCase):
         self.picture("bar-text", crop=BAR)
 
     def test_shows_the_graph(self):
-        program = self.start_bar({"menuBarStyle": 1})
-        for _ in range(6):
+        program = self.start_bar({"menuBarStyle": 1, "refreshInterval": 0.2})
+        for step in range(40):
             mark = program.mark()
-            self.machine.cpu = (self.machine.cpu + 31) % 100
+            self.machine.cpu = round(50 + 40 * math.sin(step / 3))
+            self.machine.set_memory(round(40 + 20 * math.sin(step / 7)))
             program.wait_for_painted("", after=mark)
         self.picture("bar-graph", crop=BAR)
 
@@ -79,6 +81,7 @@ class Bar(ProgramCase):
     def test_shows_stacked_labels_in_both_languages(self):
         program = self.start_bar({"modularMenuBar": True, "stackedModularLabels": True, "menubar.network": True,
                                   "appLanguage": "cs"})
+        program.wait_for_painted("CPU\n23%")
         program.wait_for_painted("PAMĚŤ\n48%")
         self.picture("bar-stacked-cs", crop=BAR)
         mark = program.mark()
@@ -86,6 +89,7 @@ class Bar(ProgramCase):
                                          "stackedModularLabels": True, "menubar.network": True,
                                          "appLanguage": "en"})
         program.wait_for_painted("MEMORY\n48%", after=mark)
+        program.wait_for_painted("CPU\n23%", after=mark)
         self.picture("bar-stacked-en", crop=BAR)
 
     def test_notices_preferences_that_another_program_writes(self):

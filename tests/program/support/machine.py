@@ -4,12 +4,12 @@ import threading
 
 
 class RecordedMachine:
-    """One core that is busy for `cpu` of a hundred ticks whenever it is looked at, and `memory` per cent used."""
+    """One core that is busy for `cpu` of a hundred ticks between two looks, and `memory` per cent used."""
 
     def __init__(self, folder, cpu=23, memory=48):
         self.folder = folder
         self.cpu = cpu
-        self._ticks = 1000
+        self._busy, self._idle = 1000 * cpu, 1000 * (100 - cpu)
         self._ended = threading.Event()
         os.makedirs(os.path.join(folder, "proc", "net"))
         self.write("proc/loadavg", "0.42 0.36 0.30 1/123 4567\n")
@@ -41,9 +41,9 @@ class RecordedMachine:
         self._ticker.join()
 
     def _advance(self):
-        self._ticks += 1
-        busy, idle = self._ticks * self.cpu, self._ticks * (100 - self.cpu)
-        line = f"{busy} 0 0 {idle} 0 0 0 0 0 0\n"
+        self._busy += self.cpu
+        self._idle += 100 - self.cpu
+        line = f"{self._busy} 0 0 {self._idle} 0 0 0 0 0 0\n"
         self.write("proc/stat", f"cpu  {line}cpu0 {line}ctxt 1\nbtime 1700000000\n")
 
     # The share stays the same however often it is looked at, as long as something went by in between.

@@ -102,7 +102,7 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
       model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), &records_.history())),
       colorScheme_(QDBusConnection::sessionBus()),
       autostart_(autostartPath(), QCoreApplication::applicationFilePath().toStdString()),
-      statusBar_(statusBarNeeds()), panels_(panelServices(options)),
+      actions_(actionServices(options)), statusBar_(statusBarNeeds()), panels_(panelServices(options)),
       delegate_(std::make_shared<AppDelegate>(appServices())),
       preferenceSubscription_(preferences_.observe([this] { preferencesChanged(); })),
       preferenceWatcher_(preferences_.path(), [this] { preferencesChangedElsewhere(); }),
@@ -144,7 +144,17 @@ PanelServices Program::panelServices(const ProgramOptions& options) {
             .complete = [this](ui::PanelContext& context) { completePanels(context); }};
 }
 
+ActionServices Program::actionServices(const ProgramOptions& options) {
+    return {.settings = settings_,
+            .localization = localization_,
+            .dispatcher = dispatcher_,
+            .processes = machine_.processControl(),
+            .refreshProcesses = [this] { model_->refreshProcessesAsync(); },
+            .root = options.root};
+}
+
 void Program::completePanels(ui::PanelContext& context) {
+    actions_.complete(context);
     context.launchesAtLogin = [this] { return autostart_.isOn(); };
     context.setLaunchAtLogin = [this](bool launches) { autostart_.setOn(launches); };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions.h"
 #include "bluetooth.h"
 #include "command_line.h"
 #include "composition/machine.h"
@@ -46,6 +47,7 @@ public:
 private:
     desktop::DesktopStatusBar::Needs statusBarNeeds();
     PanelServices panelServices(const ProgramOptions& options);
+    ActionServices actionServices(const ProgramOptions& options);
     void completePanels(ui::PanelContext& context);
     AppServices appServices();
     void preferencesChanged();
@@ -75,6 +77,7 @@ private:
     desktop::PortalColorScheme colorScheme_;
     desktop::SymbolImages symbols_;
     linux_platform::Autostart autostart_;
+    Actions actions_;
     desktop::DesktopStatusBar statusBar_;
     Panels panels_;
     std::shared_ptr<AppDelegate> delegate_;

@@ -4,6 +4,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -59,12 +60,17 @@ std::optional<AutomationFailure> ShortcutsIntegration::attempt(const std::string
                                                                std::chrono::duration<double> timeout) const {
     const bool isMac = automations_->family() == SystemFamily::macOS;
     const auto box = std::make_shared<ResultBox>();
-    std::thread([box, automations = automations_, name] {
+    const auto work = [box, automations = automations_, name] {
         auto outcome = automations->run(name);
         const std::lock_guard lock(box->mutex);
         box->outcome = std::move(outcome);
         box->signalled.notify_one();
-    }).detach();
+    };
+    try {
+        std::thread(work).detach();
+    } catch (const std::system_error&) { // no more threads: nothing was run
+        return AutomationFailure{std::nullopt, isMac ? shortcutError : automationError};
+    }
 
     std::unique_lock lock(box->mutex);
     if (!box->signalled.wait_for(lock, timeout, [&] { return box->outcome.has_value(); })) {

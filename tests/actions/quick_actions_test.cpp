@@ -1,5 +1,6 @@
 #include "actions/quick_actions.h"
 
+#include "actions/apple_script.h"
 #include "support/memory_preference_store.h"
 #include "support/recording_process_control.h"
 #include "support/scripted_desktop_actions.h"
@@ -113,6 +114,17 @@ TEST_F(QuickActionsTest, OfferNoSettingsWhereTheSystemHasNone) {
     EXPECT_EQ(dialogs.shown[1], (Alert{"Akce se nezdařila", "nelze", {"Zrušit"}}));
     dialogs.press(0);
     EXPECT_EQ(desktop.settingsOpened, 0);
+}
+
+TEST_F(QuickActionsTest, ExplainAScriptThatIsRefusedAlwaysInCzech) {
+    for (const auto action :
+         {QuickAction::emptyTrash, QuickAction::toggleDarkMode, QuickAction::newFileManagerWindow}) {
+        desktop.failures.insert_or_assign(action, *scriptErrorText({.compiled = false}));
+        actions.trigger(action);
+        if (action == QuickAction::emptyTrash) dialogs.press(0);
+        EXPECT_EQ(dialogs.shown.back(),
+                  (Alert{"Action Failed", "Neplatný AppleScript.", {"Open Settings", "Cancel"}}));
+    }
 }
 
 TEST_F(QuickActionsTest, ExplainAFailureInTheLanguageOfTheMoment) {

@@ -29,7 +29,13 @@ ActionMeans ask(const std::string& service, const std::string& object, const std
 }
 
 std::vector<ActionMeans> displaySleep(const DesktopEnvironment& environment) {
-    if (environment.isX11) return {plain("xset", {"dpms", "force", "off"})};
+    const auto lockScreen = ask("org.gnome.ScreenSaver", "/org/gnome/ScreenSaver",
+                                "org.gnome.ScreenSaver.SetActive", "boolean:true");
+    if (environment.isX11) {
+        std::vector<ActionMeans> means{plain("xset", {"dpms", "force", "off"})};
+        if (environment.desktop == Desktop::gnome) means.push_back(lockScreen);
+        return means;
+    }
     if (!environment.isWayland) return {};
     switch (environment.desktop) {
     case Desktop::kde:
@@ -39,8 +45,7 @@ std::vector<ActionMeans> displaySleep(const DesktopEnvironment& environment) {
     case Desktop::sway:
         return {plain("swaymsg", {"output * power off"})};
     case Desktop::gnome:
-        return {ask("org.gnome.ScreenSaver", "/org/gnome/ScreenSaver", "org.gnome.ScreenSaver.SetActive",
-                    "boolean:true")};
+        return {lockScreen};
     default:
         return {plain("wlopm", {"--off", "*"})};
     }

@@ -16,12 +16,29 @@ bool isRealFolder(const files::path& path) {
     return files::symlink_status(path, failed).type() == files::file_type::directory;
 }
 
+/// A folder without write permission keeps even its owner from deleting what is in it.
+void makeWritable(const files::path& tree) {
+    if (!isRealFolder(tree)) return;
+    std::error_code failed;
+    files::permissions(tree, files::perms::owner_all, files::perm_options::add, failed);
+    for (files::directory_iterator entry(tree, failed), end; !failed && entry != end; entry.increment(failed))
+        makeWritable(entry->path());
+}
+
+std::error_code removeTree(const files::path& tree) {
+    std::error_code failed;
+    files::remove_all(tree, failed);
+    if (!failed) return failed;
+    makeWritable(tree);
+    files::remove_all(tree, failed);
+    return failed;
+}
+
 void emptyFolder(const files::path& folder, std::optional<std::string>& failure) {
     std::error_code failed;
     for (files::directory_iterator entry(folder, failed), end; !failed && entry != end;
          entry.increment(failed)) {
-        std::error_code kept;
-        files::remove_all(entry->path(), kept);
+        const std::error_code kept = removeTree(entry->path());
         if (kept && !failure) failure = entry->path().filename().string() + ": " + kept.message();
     }
     if (failed && !failure) failure = folder.string() + ": " + failed.message();

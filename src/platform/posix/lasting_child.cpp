@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <system_error>
 #include <thread>
 
 namespace tarvo {
@@ -12,10 +13,14 @@ namespace {
 constexpr int longestPause = 100; ///< milliseconds
 
 void reapLater(pid_t pid) {
-    std::thread([pid] {
-        ChildProcessResult unused;
-        reapChild(pid, 0, unused);
-    }).detach();
+    try {
+        std::thread([pid] {
+            ChildProcessResult unused;
+            reapChild(pid, 0, unused);
+        }).detach();
+    } catch (const std::system_error&) {
+        return; // the system does it when this process ends
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/controls/quick_action_button.h"
 
+#include "ui/controls/plain_tool_tip.h"
 #include "ui/style/metrics.h"
 #include "ui/style/symbol.h"
 #include "ui/style/text_lines.h"
@@ -27,12 +28,32 @@ void QuickActionButton::set(QuickActionButtonFields fields) {
     if (fields == fields_) return;
     fields_ = std::move(fields);
     setName(fields_.label);
+    showWholeLabel();
     update();
 }
 
 void QuickActionButton::setLabelLines(int lines) {
     labelLines_ = lines;
     updateGeometry();
+}
+
+void QuickActionButton::resizeEvent(QResizeEvent* event) {
+    showWholeLabel();
+    PaintedButton::resizeEvent(event);
+}
+
+QStringList QuickActionButton::labelLines() const {
+    return textLines(accessibleName(), roleFont(TextRole::tileLabel), labelWidth(), labelLines_);
+}
+
+double QuickActionButton::labelWidth() const {
+    return width() - 2 * metrics::tight;
+}
+
+void QuickActionButton::showWholeLabel() {
+    const QStringList lines = labelLines();
+    const bool isCut = !lines.isEmpty() && lines.last().endsWith(QChar(0x2026));
+    setPlainToolTip(*this, isCut ? fields_.label : std::string());
 }
 
 QSize QuickActionButton::sizeHint() const {
@@ -67,14 +88,13 @@ void QuickActionButton::paintGround(QPainter& painter) const {
 void QuickActionButton::paintContent(QPainter& painter) const {
     const QFont font = roleFont(TextRole::tileLabel);
     const double line = QFontMetricsF(font).height();
-    const double room = width() - 2 * metrics::tight;
-    const QStringList lines = textLines(accessibleName(), font, room, labelLines_);
+    const QStringList lines = labelLines();
     const double height = symbolSize + metrics::tight + static_cast<double>(lines.size()) * line;
     QRectF place((width() - symbolSize) / 2, (this->height() - height) / 2, symbolSize, symbolSize);
     paintSymbol(painter, place, fields_.icon, theme().color(fields_.color));
     painter.setFont(font);
     painter.setPen(theme().color(colors::primary));
-    QRectF row(metrics::tight, place.bottom() + metrics::tight, room, line);
+    QRectF row(metrics::tight, place.bottom() + metrics::tight, labelWidth(), line);
     for (const QString& text : lines) {
         painter.drawText(row, Qt::AlignCenter, text);
         row.translate(0, line);

@@ -2,6 +2,8 @@
 
 #include "ui/controls/painted_button.h"
 
+#include <QStringList>
+
 #include <string>
 
 namespace tarvo::ui {
@@ -19,7 +21,7 @@ class QuickActionButton : public PaintedButton {
 public:
     explicit QuickActionButton(QWidget* parent = nullptr);
     void set(QuickActionButtonFields fields);
-    /// How many lines the label has room for; a longer one is also the tool tip.
+    /// How many lines the label has room for; one that does not fit is the tool tip too.
     void setLabelLines(int lines);
     const QuickActionButtonFields& fields() const { return fields_; }
     QSize sizeHint() const override;
@@ -27,8 +29,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QStringList labelLines() const;
+    double labelWidth() const;
+    void showWholeLabel();
     void paintGround(QPainter& painter) const;
     void paintContent(QPainter& painter) const;
 

@@ -1,5 +1,6 @@
 #include "ui/pages/automation_row.h"
 
+#include "ui/controls/plain_tool_tip.h"
 #include "ui/style/metrics.h"
 #include "ui/style/painting.h"
 
@@ -45,8 +46,9 @@ AutomationRow::AutomationRow(std::function<void(const std::string&)> remove, QWi
 
 void AutomationRow::set(const std::string& name, const std::string& help) {
     name_->setText(name);
-    name_->setToolTip(QString::fromStdString(name).toHtmlEscaped());
-    remove_->setName(help, true);
+    setPlainToolTip(*name_, name);
+    remove_->setName(help);
+    setPlainToolTip(*remove_, help);
 }
 
 } // namespace tarvo::ui

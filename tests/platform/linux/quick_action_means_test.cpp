@@ -41,6 +41,9 @@ TEST(QuickActionMeans, TurnTheDisplayOffByTheSessionsMeans) {
               (Commands{{"swaymsg", {"output * power off"}}}));
     EXPECT_EQ(firstCommands(QuickAction::sleepDisplay, session(Desktop::gnome, true)).front().tool,
               "dbus-send");
+    const auto gnome = meansFor(QuickAction::sleepDisplay, session(Desktop::gnome));
+    ASSERT_EQ(gnome.size(), 2U);
+    EXPECT_EQ(gnome[1].commands("").front().tool, "dbus-send");
     EXPECT_EQ(firstCommands(QuickAction::sleepDisplay, session(Desktop::wlroots, true)),
               (Commands{{"wlopm", {"--off", "*"}}}));
     EXPECT_TRUE(meansFor(QuickAction::sleepDisplay, {Desktop::other, false, false, "/home/jana"}).empty());

@@ -1,11 +1,13 @@
 #include "platform/linux/trash_folder.h"
 
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 
 namespace tarvo::linux_platform {
 namespace {
@@ -66,6 +68,33 @@ TEST_F(TrashFolderTest, IsFoundInTheHomeAndOnVolumes) {
     EXPECT_EQ(found,
               (std::vector<std::string>{(root / "data/Trash").string(), (root / "disk/.Trash-1000").string(),
                                         (root / "shared/.Trash/1000").string()}));
+}
+
+TEST_F(TrashFolderTest, LosesFoldersThatWereWriteProtected) {
+    write(root / "Trash/files/cache/deep/a.txt");
+    const OrdinaryUser user(folder);
+    files::permissions(root / "Trash/files/cache/deep", files::perms::owner_read | files::perms::owner_exec);
+    files::permissions(root / "Trash/files/cache", files::perms::owner_read | files::perms::owner_exec);
+    EXPECT_FALSE(emptyTrashFolders({(root / "Trash").string()}));
+    EXPECT_TRUE(files::is_empty(root / "Trash/files"));
+}
+
+TEST_F(TrashFolderTest, NamesWhatItCannotLoseAndLosesTheRest) {
+    write(root / "Trash/files/other/a.txt");
+    write(root / "Trash/files/b.txt");
+    write(root / "Trash/info/b.txt.trashinfo");
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can make what others cannot delete";
+    const OrdinaryUser user(folder);
+    // The folder of another user, as a mistaken sudo leaves it.
+    ASSERT_EQ(::seteuid(0), 0);
+    files::permissions(root / "Trash/files/other", files::perms::owner_all);
+    ASSERT_EQ(::lchown((root / "Trash/files/other").c_str(), 0, 0), 0);
+    ASSERT_EQ(::seteuid(OrdinaryUser::nobody), 0);
+    const auto failure = emptyTrashFolders({(root / "Trash").string()});
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->starts_with("other: ")) << *failure;
+    EXPECT_FALSE(files::exists(root / "Trash/files/b.txt"));
+    EXPECT_FALSE(files::exists(root / "Trash/info/b.txt.trashinfo"));
 }
 
 TEST_F(TrashFolderTest, IsLookedForOnEveryVolumeOfTheMachine) {

@@ -3,6 +3,8 @@
 #include "support/painted_widget.h"
 #include "ui/press.h"
 
+#include <QResizeEvent>
+
 #include <gtest/gtest.h>
 
 namespace tarvo::ui {
@@ -44,6 +46,19 @@ TEST(QuickActionButton, IsAsWideAsItsPlaceHoweverLongItsLabelIs) {
     EXPECT_EQ(button.sizeHint(), before);
     EXPECT_EQ(button.minimumSizeHint().width(), 10);
     EXPECT_FALSE(isBlank(painted(button, {10, 40})));
+}
+
+TEST(QuickActionButton, TellsALabelThatDoesNotFitAsItsHelp) {
+    QuickActionButton button;
+    button.resize(96, 60);
+    button.set({"bolt.fill", "Tidy <b>up</b>", colors::yellow});
+    EXPECT_TRUE(button.toolTip().isEmpty());
+    button.set({"bolt.fill", "<b>" + std::string(100, 'x') + "</b>", colors::yellow});
+    EXPECT_TRUE(button.toolTip().contains(QStringLiteral("&lt;b&gt;xxx")));
+    button.resize(2000, 60);
+    QResizeEvent wide(button.size(), {});
+    QApplication::sendEvent(&button, &wide);
+    EXPECT_TRUE(button.toolTip().isEmpty());
 }
 
 TEST(QuickActionButton, AnEqualTileIsNotPaintedAgain) {

@@ -2,6 +2,12 @@
 // Usage: tarvo-gallery <folder>
 #include "support/memory_preference_store.h"
 #include "support/painted_widget.h"
+#include "support/recording_process_control.h"
+#include "support/scripted_automations.h"
+#include "support/scripted_desktop_actions.h"
+#include "support/scripted_dialogs.h"
+#include "ui/cards/automations_card.h"
+#include "ui/cards/quick_actions_card.h"
 #include "ui/elements/badge.h"
 #include "ui/elements/capacity_bar.h"
 #include "ui/elements/card_background.h"
@@ -14,6 +20,7 @@
 #include "ui/elements/stat_row.h"
 #include "ui/elements/temp_bar.h"
 #include "ui/elements/text_label.h"
+#include "ui/pages/automations_settings_card.h"
 #include "ui/pages/popover_view.h"
 #include "ui/panel_fixture.h"
 #include "ui/style/accent.h"
@@ -161,6 +168,40 @@ struct Scene {
     int height;
 };
 
+/// The actions of a desktop that can do all of them, and some automations.
+struct ActionCards {
+    explicit ActionCards(PanelParts& parts)
+        : actions(desktop, dialogs, processes, parts.loc, [] {}),
+          runner(automations, parts.dispatcher, dialogs, parts.loc), context{
+                                                                         parts.settings, parts.loc, runner,
+                                                                         "~/.local/share/Tarvo/automations"} {
+        desktop.systemFamily = SystemFamily::other;
+        parts.settings.setCustomShortcuts({"Back up photos", "VPN", "Tidy up the downloads of the week"});
+    }
+    static std::shared_ptr<Automations> someAutomations() {
+        auto made = std::make_shared<ScriptedAutomations>();
+        made->systemFamily = SystemFamily::other;
+        return made;
+    }
+    void complete(PanelContext& panel) {
+        panel.makeQuickActionsCard = [this, &loc = panel.loc](QWidget* parent) {
+            return new QuickActionsCard(actions, loc, parent);
+        };
+        panel.makeAutomationsCard = [this](QWidget* parent) { return new AutomationsCard(context, parent); };
+        panel.makeAutomationsSettingsCard = [this](QWidget* parent) {
+            return new CustomAutomationsCard(context, parent);
+        };
+    }
+
+    ScriptedDesktopActions desktop;
+    ScriptedDialogs dialogs;
+    RecordingProcessControl processes;
+    QuickActions actions;
+    std::shared_ptr<Automations> automations = someAutomations();
+    AutomationRunner runner;
+    AutomationsContext context;
+};
+
 void drawPage(const QDir& folder, const Scene& scene, const Look& look, int scale) {
     PanelParts parts;
     parts.showEverything();
@@ -171,11 +212,15 @@ void drawPage(const QDir& folder, const Scene& scene, const Look& look, int scal
     parts.model->publishedCPUHistory().set(wave(60, 40, 25));
     parts.model->publishedMemHistory().set(wave(60, 61, 2));
     parts.update.set(UpdateInfo{"2.0", "https://example.org", std::nullopt});
-    PopoverView view(parts.context());
+    ActionCards cards(parts);
+    PanelContext context = parts.context();
+    cards.complete(context);
+    PopoverView view(context);
     view.setPalette(look.palette);
     view.setShowSettings(scene.settings);
     const QSize size(360, scene.height);
     painted(view, size);
+    QApplication::processEvents();
     const QImage image = painted(view, size, scale, look.palette.color(QPalette::Window));
     image.save(folder.filePath(QStringLiteral("%1-%2-%3.png")
                                    .arg(QLatin1String(scene.name), QLatin1String(look.name))
@@ -185,12 +230,12 @@ void drawPage(const QDir& folder, const Scene& scene, const Look& look, int scal
 void drawPages(const QDir& folder) {
     const Look light{"light", lightPalette()};
     const Look dark{"dark", darkPalette()};
-    const Scene scenes[] = {{"popover-en", laptopSnapshot(), AppLanguage::en, false, 1900},
-                            {"popover-cs", laptopSnapshot(), AppLanguage::cs, false, 1900},
-                            {"popover-empty", {}, AppLanguage::en, false, 1500},
-                            {"popover-extreme", extremeSnapshot(), AppLanguage::cs, false, 2400},
-                            {"settings-en", {}, AppLanguage::en, true, 1500},
-                            {"settings-cs", {}, AppLanguage::cs, true, 1500}};
+    const Scene scenes[] = {{"popover-en", laptopSnapshot(), AppLanguage::en, false, 2200},
+                            {"popover-cs", laptopSnapshot(), AppLanguage::cs, false, 2200},
+                            {"popover-empty", {}, AppLanguage::en, false, 1800},
+                            {"popover-extreme", extremeSnapshot(), AppLanguage::cs, false, 2600},
+                            {"settings-en", {}, AppLanguage::en, true, 1800},
+                            {"settings-cs", {}, AppLanguage::cs, true, 1800}};
     for (const Scene& scene : scenes) {
         for (const Look& look : {light, dark})
             drawPage(folder, scene, look, 1);

@@ -117,9 +117,11 @@ TEST_F(QuickActionsTest, OfferNoSettingsWhereTheSystemHasNone) {
 }
 
 TEST_F(QuickActionsTest, ExplainAScriptThatIsRefusedAlwaysInCzech) {
+    ScriptOutcome refused;
+    refused.compiled = false;
     for (const auto action :
          {QuickAction::emptyTrash, QuickAction::toggleDarkMode, QuickAction::newFileManagerWindow}) {
-        desktop.failures.insert_or_assign(action, *scriptErrorText({.compiled = false}));
+        desktop.failures.insert_or_assign(action, *scriptErrorText(refused));
         actions.trigger(action);
         if (action == QuickAction::emptyTrash) dialogs.press(0);
         EXPECT_EQ(dialogs.shown.back(),

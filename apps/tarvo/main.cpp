@@ -1,8 +1,12 @@
 #include "command_line.h"
+#include "core/application_identifier.h"
 #include "platform/desktop/display_check.h"
 #include "platform/desktop/paint_log.h"
+#include "platform/desktop/session_service.h"
 #include "program.h"
 #include "ui/elements/element.h"
+
+#include <QDBusConnection>
 
 #include <fmt/format.h>
 
@@ -18,6 +22,13 @@ using namespace tarvo;
 
 constexpr int usageStatus = 2;
 constexpr int displayStatus = 1;
+constexpr int busyStatus = 1;
+
+int openRunningOne(desktop::SessionService& session) {
+    if (session.callOwner(QString::fromLatin1(openPopoverMethod))) return 0;
+    fmt::print(stderr, "tarvo: already running, but it does not answer\n");
+    return busyStatus;
+}
 
 int runProgram(int argumentCount, char** arguments, const ProgramOptions& options) {
     if (const auto missing = desktop::missingDisplay()) {
@@ -25,9 +36,12 @@ int runProgram(int argumentCount, char** arguments, const ProgramOptions& option
         return displayStatus;
     }
     desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION);
+    desktop::SessionService session(QDBusConnection::sessionBus(),
+                                    QString::fromLatin1(applicationIdentifier));
+    if (session.claim() == desktop::SessionService::Claim::taken) return openRunningOne(session);
     ui::installElementAccessibility();
     desktop::logPaintsIfAsked();
-    Program program(application, options);
+    Program program(application, session, options);
     const int status = program.run();
     if (!program.finish()) std::_Exit(status);
     return status;

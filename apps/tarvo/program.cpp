@@ -1,11 +1,13 @@
 #include "program.h"
 
+#include "core/application_identifier.h"
 #include "detail.h"
 #include "https_helper_path.h"
 #include "localization/app_language.h"
 #include "platform/build_options.h"
 #include "platform/desktop/appearance/dark_palette.h"
 #include "platform/desktop/desktop_window.h"
+#include "platform/desktop/hot_key/hot_key_means.h"
 #include "platform/desktop/network_manager_wifi.h"
 #include "platform/desktop/popover/pointer_position.h"
 #include "platform/desktop/popover/qt_popover.h"
@@ -20,6 +22,7 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
+#include <QGuiApplication>
 
 #include <string>
 
@@ -73,7 +76,8 @@ std::optional<Point> pointer() {
 
 } // namespace
 
-Program::Program(desktop::QtApplication& application, const ProgramOptions& options)
+Program::Program(desktop::QtApplication& application, desktop::SessionService& session,
+                 const ProgramOptions& options)
     : application_(application), preferences_(preferencePath(), clock_), settings_(preferences_),
       sharedSettings_(settings_),
       localization_(preferences_, linux_platform::systemLanguageCode(processEnvironment)),
@@ -102,11 +106,13 @@ Program::Program(desktop::QtApplication& application, const ProgramOptions& opti
       model_(StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), &records_.history())),
       colorScheme_(QDBusConnection::sessionBus()),
       autostart_(autostartPath(), QCoreApplication::applicationFilePath().toStdString()),
-      actions_(actionServices(options)), statusBar_(statusBarNeeds()), panels_(panelServices(options)),
-      delegate_(std::make_shared<AppDelegate>(appServices())),
+      actions_(actionServices(options)), statusBar_(statusBarNeeds()), hotKeys_(hotKeyBinder()),
+      panels_(panelServices(options)), delegate_(std::make_shared<AppDelegate>(appServices())),
       preferenceSubscription_(preferences_.observe([this] { preferencesChanged(); })),
       preferenceWatcher_(preferences_.path(), [this] { preferencesChangedElsewhere(); }),
-      signals_([this] { application_.terminate(); }) {
+      signals_([this] { application_.terminate(); }),
+      sessionEnd_([this] { delegate_->applicationWillTerminate(); }) {
+    answer(session);
     colorScheme_.changed = [this] { desktop::followColorScheme(colorScheme_.prefersDark()); };
     statusBar_.bar().hostChanged = [this] { notificationCenter_.post(menuBarStyleChanged); };
 }
@@ -176,9 +182,24 @@ AppServices Program::appServices() {
                 [this](MenuBarModule module) { return makePreviewContent(module, panels_.context()); },
             .pointerPosition = pointer,
             .evaluateAlerts = [this](const StatsSnapshot& snapshot) { alerts_.evaluate(snapshot); },
-            .registerHotKey = {},
+            .hotKeys = &hotKeys_,
             .checkForUpdatesIfDue = [this] { updates_.checkIfNeeded(); },
             .saveUnsavedHistory = [this] { records_.history().save(); }};
+}
+
+desktop::HotKeyBinder Program::hotKeyBinder() const {
+    const auto means = desktop::hotKeyMeans(QGuiApplication::platformName(), processEnvironment);
+    const auto description =
+        localization_.t({.cs = "Otevřít nebo zavřít panel", .en = "Open or close the panel"});
+    return desktop::hotKeyBinder(means, QDBusConnection::sessionBus(),
+                                 {.applicationID = QString::fromLatin1(applicationIdentifier),
+                                  .description = QString::fromStdString(description)});
+}
+
+void Program::answer(desktop::SessionService& session) {
+    session.setMethod(QStringLiteral("TogglePopover"), [this] { delegate_->togglePopover(); });
+    session.setMethod(QString::fromLatin1(openPopoverMethod), [this] { delegate_->reopen(); });
+    session.setMethod(QStringLiteral("OpenDetailWindow"), [this] { delegate_->openDetailWindow(); });
 }
 
 void Program::preferencesChanged() {

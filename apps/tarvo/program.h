@@ -15,9 +15,12 @@
 #include "platform/desktop/appearance/portal_color_scheme.h"
 #include "platform/desktop/desktop_notifications.h"
 #include "platform/desktop/desktop_status_bar.h"
+#include "platform/desktop/hot_key/desktop_hot_keys.h"
 #include "platform/desktop/preference_file_watcher.h"
 #include "platform/desktop/qt_application.h"
 #include "platform/desktop/qt_dispatcher.h"
+#include "platform/desktop/session_end.h"
+#include "platform/desktop/session_service.h"
 #include "platform/desktop/symbols/symbol_images.h"
 #include "platform/desktop/termination_signals.h"
 #include "platform/linux/autostart.h"
@@ -32,11 +35,15 @@
 
 namespace tarvo {
 
+/// The method that a second instance calls in the first one.
+inline constexpr const char* openPopoverMethod = "OpenPopover";
+
 /// Everything the desktop program is made of, in the order in which it is made. One object; main thread only.
 class Program {
 public:
-    /// The application outlives the program.
-    Program(desktop::QtApplication& application, const ProgramOptions& options);
+    /// The application and the service outlive the program; it answers the methods of the service.
+    Program(desktop::QtApplication& application, desktop::SessionService& session,
+            const ProgramOptions& options);
 
     /// Launches, runs until the user, the session or a signal ends it, and writes what is not saved. The exit
     /// status.
@@ -50,6 +57,8 @@ private:
     ActionServices actionServices(const ProgramOptions& options);
     void completePanels(ui::PanelContext& context);
     AppServices appServices();
+    desktop::HotKeyBinder hotKeyBinder() const;
+    void answer(desktop::SessionService& session);
     void preferencesChanged();
     void preferencesChangedElsewhere();
     void followLanguage();
@@ -79,11 +88,13 @@ private:
     linux_platform::Autostart autostart_;
     Actions actions_;
     desktop::DesktopStatusBar statusBar_;
+    desktop::DesktopHotKeys hotKeys_;
     Panels panels_;
     std::shared_ptr<AppDelegate> delegate_;
     Subscription preferenceSubscription_;
     desktop::PreferenceFileWatcher preferenceWatcher_;
     desktop::TerminationSignals signals_;
+    desktop::SessionEnd sessionEnd_;
 };
 
 } // namespace tarvo

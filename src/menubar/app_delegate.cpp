@@ -6,6 +6,14 @@
 
 namespace tarvo {
 
+namespace {
+
+// Command, shift and the M key.
+constexpr std::uint32_t hotKeyCode = 46;
+constexpr std::uint32_t hotKeyModifiers = 768;
+
+} // namespace
+
 AppDelegate::AppDelegate(AppServices services)
     : services_(std::move(services)),
       items_(services_.statusBar, services_.settings, services_.localization, *services_.model,
@@ -14,6 +22,7 @@ AppDelegate::AppDelegate(AppServices services)
               .contextMenu = [this] { return contextMenu(); }}),
       detailWindow_(services_.application, services_.makeDetailWindow) {
     detailWindow_.onOpenChanged = [this] { updateDetailVisible(); };
+    if (services_.hotKeys) hotKeyManager_.emplace(*services_.hotKeys);
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -50,8 +59,8 @@ void AppDelegate::installUpdateCallback() {
 }
 
 void AppDelegate::registerHotKey() {
-    if (!services_.registerHotKey) return;
-    services_.registerHotKey([weakSelf = weak_from_this()] {
+    if (!hotKeyManager_) return;
+    hotKeyManager_->registerHotKey(hotKeyCode, hotKeyModifiers, [weakSelf = weak_from_this()] {
         if (const auto self = weakSelf.lock()) self->togglePopover();
     });
 }
@@ -108,6 +117,16 @@ void AppDelegate::togglePopover(StatusButton* anchor) {
     }
     if (!anchor) anchor = items_.defaultAnchor();
     if (anchor) popover_->show(*anchor);
+}
+
+void AppDelegate::reopen() {
+    if (popover_ && popover_->isShown()) return;
+    StatusButton* const anchor = items_.defaultAnchor() ? items_.defaultAnchor() : items_.firstButton();
+    if (popover_ && anchor) {
+        popover_->show(*anchor);
+    } else {
+        openDetailWindow();
+    }
 }
 
 void AppDelegate::popoverWillShow() {

@@ -4,6 +4,7 @@
 #include "core/settings.h"
 #include "core/stats_model.h"
 #include "menubar/detail_window_controller.h"
+#include "menubar/hot_key_manager.h"
 #include "menubar/hover_preview.h"
 #include "menubar/main_popover.h"
 #include "menubar/status_items.h"
@@ -20,8 +21,8 @@ namespace tarvo {
 
 class LocalizationManager;
 
-/// What the delegate works with. References outlive it. A function may be left empty: the delegate then goes
-/// without what it would give.
+/// What the delegate works with. References and pointers outlive it. A function may be left empty: the
+/// delegate then goes without what it would give.
 struct AppServices {
     Application& application;
     StatusBar& statusBar;
@@ -41,8 +42,7 @@ struct AppServices {
 
     /// Called for each snapshot while notifications are enabled.
     std::function<void(const StatsSnapshot&)> evaluateAlerts;
-    /// Registers the global hot key with what a press does.
-    std::function<void(std::function<void()> pressed)> registerHotKey;
+    HotKeys* hotKeys = nullptr; ///< null: there is no global hot key
     std::function<void()> checkForUpdatesIfDue;
     std::function<void()> saveUnsavedHistory;
 };
@@ -64,6 +64,9 @@ public:
     /// Opens the popover at the anchor, or closes it. Without an anchor: at the combined item, else at the
     /// processor's, else nothing happens.
     void togglePopover(StatusButton* anchor = nullptr);
+    /// The program was started once more: shows the popover, at any item if it must be, or the detail window
+    /// where there is no item at all.
+    void reopen();
     void openDetailWindow();
     void quit();
     /// The rows of the status items' context menu in the current language.
@@ -84,6 +87,7 @@ private:
     AppServices services_;
     StatusItems items_;
     DetailWindowController detailWindow_;
+    std::optional<HotKeyManager> hotKeyManager_;
     std::shared_ptr<MainPopover> popover_;       ///< made at launch
     std::unique_ptr<HoverPreview> hoverPreview_; ///< made at launch
     Subscription styleSubscription_;

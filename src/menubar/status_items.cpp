@@ -138,4 +138,9 @@ StatusButton* StatusItems::defaultAnchor() const {
     return cpu == statusItems_.end() ? nullptr : cpu->second->button();
 }
 
+StatusButton* StatusItems::firstButton() const {
+    if (combinedStatusItem_) return combinedStatusItem_->button();
+    return statusItems_.empty() ? nullptr : statusItems_.begin()->second->button();
+}
+
 } // namespace tarvo

@@ -42,6 +42,8 @@ public:
     /// Where the popover opens when nobody clicked: at the combined item, else at the processor's; null
     /// without.
     StatusButton* defaultAnchor() const;
+    /// Any item's button, that of the first module before others; null without items.
+    StatusButton* firstButton() const;
     /// The modular layout's items in module order; empty in the combined layout.
     const std::map<MenuBarModule, ItemPointer>& modularItems() const { return statusItems_; }
 

@@ -118,7 +118,7 @@ TEST_F(CombinedItem, IsSkippedWithoutAButton) {
     tick();
     EXPECT_EQ(bar.size(), 1u);
     EXPECT_EQ(button().changes, 0);
-    pressHotKey();
+    hotKeys.press();
     EXPECT_FALSE(popover().isShown());
 }
 

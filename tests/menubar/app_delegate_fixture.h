@@ -6,6 +6,7 @@
 #include "support/manual_dispatcher.h"
 #include "support/memory_preference_store.h"
 #include "support/recording_application.h"
+#include "support/recording_hot_keys.h"
 #include "support/recording_popover.h"
 #include "support/recording_status_bar.h"
 
@@ -59,7 +60,7 @@ protected:
                     },
                 .pointerPosition = [this] { return pointer; },
                 .evaluateAlerts = {},
-                .registerHotKey = [this](std::function<void()> pressed) { pressHotKey = std::move(pressed); },
+                .hotKeys = &hotKeys,
                 .checkForUpdatesIfDue = {},
                 .saveUnsavedHistory = {}};
     }
@@ -100,7 +101,7 @@ protected:
     RecordingPopovers popovers;
     std::shared_ptr<StatsModel> model = StatsModel::make(settings, clock, dispatcher, readers(), nullptr);
     std::optional<Point> pointer;
-    std::function<void()> pressHotKey;
+    RecordingHotKeys hotKeys;
     int contentsMade = 0;
     std::vector<MenuBarModule> previewModules;
     std::shared_ptr<AppDelegate> delegate;

@@ -96,7 +96,7 @@ TEST_F(HoverPreviewOfDelegate, ClosesOnAClickAndStaysClosedWhileThePopoverIsOpen
 TEST_F(HoverPreviewOfDelegate, ClosesWhenTheHotKeyOpensThePopover) {
     launchWithPlaces();
     hover(50);
-    pressHotKey();
+    hotKeys.press();
     tick(120ms);
     EXPECT_TRUE(popover().isShown());
     EXPECT_FALSE(preview().isShown());

@@ -23,7 +23,7 @@ TEST_F(Lifecycle, LaunchesInOrder) {
         if (steps.back() != "first tick") steps.emplace_back("first tick");
         EXPECT_EQ(bar.button(0).title, "CPU 12% · RAM 48%");
     };
-    given.registerHotKey = [&](auto) { steps.emplace_back("hot key"); };
+    hotKeys.whenRegistered = [&] { steps.emplace_back("hot key"); };
     given.checkForUpdatesIfDue = [&] { steps.emplace_back("update check"); };
     launch(std::move(given));
     EXPECT_THAT(steps, ElementsAre("popover", "hover popover", "first tick", "hot key", "update check"));
@@ -62,7 +62,7 @@ TEST_F(Lifecycle, RunsWithoutAnythingOptional) {
             .makePreviewContent = {},
             .pointerPosition = {},
             .evaluateAlerts = {},
-            .registerHotKey = {},
+            .hotKeys = nullptr,
             .checkForUpdatesIfDue = {},
             .saveUnsavedHistory = {}});
     useModularLayout();
@@ -115,7 +115,7 @@ TEST_F(Lifecycle, IsNotKeptAliveByWhatCallsIt) {
     EXPECT_TRUE(weak.expired());
     EXPECT_EQ(bar.size(), 0u) << "its items are gone";
     tick(std::chrono::minutes(1));
-    pressHotKey();
+    hotKeys.press();
     announceStyleChange();
     EXPECT_EQ(bar.made, 1);
 }

@@ -50,19 +50,27 @@ TEST_F(MainPopoverOfDelegate, WantsTheDetailedReadingsWhileItIsOpen) {
     EXPECT_FALSE(model->detailVisible());
 }
 
+TEST_F(MainPopoverOfDelegate, HasCommandShiftMForItsHotKey) {
+    launch();
+    ASSERT_EQ(hotKeys.keys.size(), 1u);
+    EXPECT_EQ(hotKeys.keys.begin()->second, (RecordingHotKeys::Registered{46, 768, {0x534D686B, 1}}));
+    delegate.reset();
+    EXPECT_TRUE(hotKeys.keys.empty());
+}
+
 TEST_F(MainPopoverOfDelegate, TogglesByTheHotKeyUnderTheCombinedItem) {
     launch();
-    pressHotKey();
+    hotKeys.press();
     EXPECT_TRUE(popover().isShown());
     EXPECT_EQ(popover().anchor, &bar.button(0));
-    pressHotKey();
+    hotKeys.press();
     EXPECT_FALSE(popover().isShown());
 }
 
 TEST_F(MainPopoverOfDelegate, OpensByTheHotKeyUnderTheProcessorsItemInTheModularLayout) {
     useModularLayout();
     launch();
-    pressHotKey();
+    hotKeys.press();
     EXPECT_EQ(popover().anchor, &bar.button(0));
     EXPECT_EQ(bar.button(0).symbol()->name, "cpu.fill");
 }
@@ -72,7 +80,7 @@ TEST_F(MainPopoverOfDelegate, IgnoresTheHotKeyInAModularLayoutWithoutTheProcesso
     set("menubar.cpu", false);
     launch();
     EXPECT_EQ(bar.size(), 1u);
-    pressHotKey();
+    hotKeys.press();
     EXPECT_FALSE(popover().isShown());
     EXPECT_FALSE(model->detailVisible());
     EXPECT_EQ(contentsMade, 0);

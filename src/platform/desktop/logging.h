@@ -4,12 +4,18 @@
 
 namespace tarvo::desktop {
 
-/// What the status bar shows and where, for people who look for a fault and for tests. Silent unless asked
-/// for with QT_LOGGING_RULES="tarvo.*=true".
+/// For people who look for a fault and for tests. Silent unless asked for with
+/// QT_LOGGING_RULES="tarvo.*=true".
+
+/// What the status bar shows and where.
 Q_DECLARE_LOGGING_CATEGORY(statusBarLog)
 /// When popovers open and close.
 Q_DECLARE_LOGGING_CATEGORY(popoverLog)
 /// Every widget that is painted.
 Q_DECLARE_LOGGING_CATEGORY(paintLog)
+/// What became of the hot key, and each press.
+Q_DECLARE_LOGGING_CATEGORY(hotKeyLog)
+/// What other programs ask for, and how the session ends.
+Q_DECLARE_LOGGING_CATEGORY(sessionLog)
 
 } // namespace tarvo::desktop

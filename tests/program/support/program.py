@@ -14,6 +14,7 @@ ANNOUNCED = re.compile(r"^(tarvo\.\w+: .*|)$")
 class Tarvo:
     def __init__(self, session, machine=None, preferences=None, arguments=(), **environment):
         self.session = session
+        self.announced = []
         self.log_path = session.path("tarvo.log")
         if os.path.exists(self.log_path):
             os.remove(self.log_path)
@@ -57,7 +58,12 @@ class Tarvo:
         return self.wait_for_end()
 
     def unexpected_lines(self):
-        return [line for line in self.log().splitlines() if not ANNOUNCED.match(line)]
+        return [line for line in self.log().splitlines()
+                if not ANNOUNCED.match(line) and not any(text in line for text in self.announced)]
+
+    def announce(self, text):
+        """Lines with this text belong into the log from now on."""
+        self.announced.append(text)
 
     def windows(self, kind):
         """Visible windows of the program whose type ends with `kind`, e.g. DOCK."""

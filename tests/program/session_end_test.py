@@ -1,0 +1,72 @@
+"""The end of the session around the program: signals, the display, the message bus, a session manager."""
+import json
+import os
+import signal
+import unittest
+
+from support.case import ProgramCase
+from support.waiting import wait_for
+
+
+class SessionEnd(ProgramCase):
+    def start_bar(self):
+        if os.path.exists(self.history_path()):
+            os.remove(self.history_path())
+        program = self.start(TARVO_STATUS_BAR="bar")
+        program.wait_for_painted("CPU 23% · RAM 48%")
+        wait_for(lambda: program.alive() and os.path.exists(self.history_path()), "the first sample")
+        self.written = os.stat(self.history_path())
+        return program
+
+    def history_path(self):
+        return os.path.join(self.session.environment["XDG_DATA_HOME"], "Tarvo", "history.json")
+
+    def assert_history_is_whole(self):
+        """The one sample is there, and what was written already was not written again."""
+        with open(self.history_path(), encoding="utf-8") as file:
+            samples = json.load(file)
+        self.assertEqual(len(samples), 1)
+        now = os.stat(self.history_path())
+        self.assertEqual((now.st_ino, now.st_mtime_ns), (self.written.st_ino, self.written.st_mtime_ns))
+
+    def child(self, name):
+        return next(child for child in self.session.children if os.path.basename(child.args[0]) == name)
+
+    def test_signals_end_it_with_status_0(self):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(number):
+                program = self.start_bar()
+                self.assertEqual(program.terminate(number), 0)
+                self.assert_history_is_whole()
+
+    def test_two_signals_are_one(self):
+        program = self.start_bar()
+        os.kill(program.process.pid, signal.SIGTERM)
+        os.kill(program.process.pid, signal.SIGINT)
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_the_end_of_the_display_ends_it_with_status_0(self):
+        program = self.start_bar()
+        server = self.child("Xvfb")
+        server.kill()
+        server.wait(30)
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assert_history_is_whole()
+        program.announce("The X11 connection broke")
+
+    def test_it_goes_on_when_the_message_bus_is_gone(self):
+        program = self.start_bar()
+        bus = self.child("dbus-daemon")
+        bus.kill()
+        bus.wait(30)
+        mark = program.mark()
+        self.machine.set_memory(61)
+        program.wait_for_painted("CPU 23% · RAM 61%", after=mark)
+        self.press("super+shift+m")
+        program.wait_for_log(r"^tarvo\.hotkey: pressed$", after=mark)
+        self.assertEqual(program.terminate(), 0)
+        self.assert_history_is_whole()
+
+
+if __name__ == "__main__":
+    unittest.main()

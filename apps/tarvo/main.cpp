@@ -35,7 +35,7 @@ int runProgram(int argumentCount, char** arguments, const ProgramOptions& option
         fmt::print(stderr, "tarvo: {}\n", *missing);
         return displayStatus;
     }
-    desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION);
+    desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION, applicationIdentifier);
     desktop::SessionService session(QDBusConnection::sessionBus(),
                                     QString::fromLatin1(applicationIdentifier));
     if (session.claim() == desktop::SessionService::Claim::taken) return openRunningOne(session);

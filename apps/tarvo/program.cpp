@@ -90,7 +90,7 @@ Program::Program(desktop::QtApplication& application, desktop::SessionService& s
                clock_, dispatcher_),
       sharedDemand_(machine_.processDemand()),
       bluetooth_(bluetoothBus(options.root), options.root, dispatcher_), records_(dataFolder(), clock_),
-      notifications_(QDBusConnection::sessionBus()),
+      notifications_(QDBusConnection::sessionBus(), {.desktopEntry = applicationIdentifier}),
       alerts_({.notifications = notifications_,
                .log = []() -> AlertLogStore& { return AlertLogStore::shared(); },
                .settings = settings_,

@@ -5,6 +5,7 @@ import signal
 import unittest
 
 from support.case import ProgramCase
+from support.session_manager import NEVER, SessionManager
 from support.waiting import wait_for
 
 
@@ -53,6 +54,20 @@ class SessionEnd(ProgramCase):
         self.assertEqual(program.wait_for_end(), 0)
         self.assert_history_is_whole()
         program.announce("The X11 connection broke")
+
+    def test_a_session_manager_gets_the_history_saved_and_the_program_ended(self):
+        manager = SessionManager()
+        program = self.start(TARVO_STATUS_BAR="bar", SESSION_MANAGER=manager.address)
+        manager.run_until(lambda: program.alive() and manager.saves == 1, "the program's registration")
+        mark = program.mark()
+        manager.end_session()
+        manager.run_until(lambda: program.alive() and manager.saves == 2, "the program's save")
+        program.wait_for_log(r"^tarvo\.session: asked to save$", after=mark)
+        self.assertEqual(manager.properties["RestartStyleHint"][0], NEVER)
+        manager.tell_to_die()
+        manager.run_until(lambda: program.process.poll() is not None, "the program's end")
+        self.assertEqual(program.process.returncode, 0)
+        self.assertTrue(os.path.exists(self.history_path()))
 
     def test_it_goes_on_when_the_message_bus_is_gone(self):
         program = self.start_bar()

@@ -10,8 +10,9 @@ namespace tarvo::desktop {
 /// popovers none, so that the activation policy is only remembered.
 class QtApplication : public Application {
 public:
-    /// `version` as it is shown to people, without a leading letter.
-    QtApplication(int& argumentCount, char** arguments, const char* version);
+    /// `version` as it is shown to people, without a leading letter; `desktopFile` is the name of the
+    /// program's desktop file without its suffix, by which desktops find its icon.
+    QtApplication(int& argumentCount, char** arguments, const char* version, const char* desktopFile);
 
     void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
     void activateIgnoringOtherApps() override;

@@ -2,6 +2,7 @@
 
 #include "core/application_identifier.h"
 #include "detail.h"
+#include "hot_key_text.h"
 #include "https_helper_path.h"
 #include "localization/app_language.h"
 #include "platform/build_options.h"
@@ -163,6 +164,7 @@ void Program::completePanels(ui::PanelContext& context) {
     actions_.complete(context);
     context.launchesAtLogin = [this] { return autostart_.isOn(); };
     context.setLaunchAtLogin = [this](bool launches) { autostart_.setOn(launches); };
+    context.hotKeyText = [this] { return localization_.t(hotKeyText(hotKeys_.state())); };
 }
 
 AppServices Program::appServices() {

@@ -40,6 +40,15 @@ class SessionEnd(ProgramCase):
                 self.assertEqual(program.terminate(number), 0)
                 self.assert_history_is_whole()
 
+    def open_popover(self, program):
+        self.press("super+shift+m")
+        program.wait_for_log(r"^tarvo\.popover: shown")
+
+    def test_an_open_popover_does_not_hold_it_up(self):
+        program = self.start_bar()
+        self.open_popover(program)
+        self.assertEqual(program.terminate(), 0)
+
     def test_two_signals_are_one(self):
         program = self.start_bar()
         os.kill(program.process.pid, signal.SIGTERM)
@@ -59,6 +68,7 @@ class SessionEnd(ProgramCase):
         manager = SessionManager()
         program = self.start(TARVO_STATUS_BAR="bar", SESSION_MANAGER=manager.address)
         manager.run_until(lambda: program.alive() and manager.saves == 1, "the program's registration")
+        self.open_popover(program)
         mark = program.mark()
         manager.end_session()
         manager.run_until(lambda: program.alive() and manager.saves == 2, "the program's save")

@@ -1,5 +1,6 @@
 #include "platform/desktop/qt_application.h"
 
+#include <QEvent>
 #include <QWidget>
 
 #include <clocale>
@@ -16,6 +17,13 @@ QtApplication::QtApplication(int& argumentCount, char** arguments, const char* v
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tarvo"));
     QGuiApplication::setDesktopFileName(QLatin1String(desktopFile));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+// By itself a Qt application first closes its windows, and stays when one only hides.
+bool QtApplication::Ending::event(QEvent* event) {
+    if (event->type() != QEvent::Quit) return QApplication::event(event);
+    exit(0);
+    return true;
 }
 
 void QtApplication::activateIgnoringOtherApps() {

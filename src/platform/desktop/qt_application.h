@@ -23,7 +23,14 @@ public:
     int run();
 
 private:
-    QApplication application_;
+    /// No window can refuse the end.
+    class Ending : public QApplication {
+    public:
+        using QApplication::QApplication;
+        bool event(QEvent* event) override;
+    };
+
+    Ending application_;
     ActivationPolicy policy_ = ActivationPolicy::regular;
 };
 

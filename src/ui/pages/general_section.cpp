@@ -26,9 +26,11 @@ public:
         addAccent();
         addInterval();
         addTemperatureUnit();
-        if (!context.launchesAtLogin || !context.setLaunchAtLogin) return;
-        addSwitch({.cs = "Spustit při přihlášení", .en = "Launch at Login"}, {}, context.launchesAtLogin,
-                  context.setLaunchAtLogin);
+        if (context.launchesAtLogin && context.setLaunchAtLogin) {
+            addSwitch({.cs = "Spustit při přihlášení", .en = "Launch at Login"}, {}, context.launchesAtLogin,
+                      context.setLaunchAtLogin);
+        }
+        if (context.hotKeyText) addText(TextRole::placeholder, context.hotKeyText);
     }
 
 private:

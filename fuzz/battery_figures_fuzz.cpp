@@ -68,6 +68,7 @@ void check(const BatteryDescription& description) {
     Described machine(description);
     const auto battery = readBatteryInfo(machine, machine);
     if (!battery) std::abort(); // described, so its charge is known
+    if (battery->percentage < 0 || battery->percentage > 100) std::abort();
     for (const auto minutes : {battery->timeToEmptyMinutes, battery->timeToFullMinutes}) {
         if (minutes && (*minutes < 1 || formatMinutes(*minutes).empty())) std::abort();
     }

@@ -41,7 +41,7 @@ struct Machine::Parts {
     Parts(MachineOptions given, Clock& theClock, Dispatcher& theDispatcher)
         : options(std::move(given)), clock(theClock), dispatcher(theDispatcher), root(options.root),
           host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
-          disks(root), gpus(root, clock, nvidia()), volumes(root, clock),
+          disks(root), gpus(root, clock, nvidia()), volumes(root, clock, volumeSources()),
           wifiClient(options.wifi ? options.wifi : std::make_shared<LinuxWiFiClient>(root)),
           wifi(*wifiClient), battery(root, dispatcher),
           backups(makeLinuxBackups(root, processEnvironment, clock, liveTools())), processes(root, clock) {
@@ -59,6 +59,12 @@ struct Machine::Parts {
 
     // Tools answer for the running machine only.
     ChildProcesses* liveTools() { return root.isLive() ? &tools : nullptr; }
+
+    VolumeSources volumeSources() const {
+        VolumeSources sources;
+        if (options.volumeHint) sources.hint = options.volumeHint;
+        return sources;
+    }
 
     // The library answers for the running machine only.
     NVIDIAUtilization nvidia() {

@@ -26,6 +26,8 @@ struct MachineOptions {
     bool readsSensors = true;     ///< without, no sensor is looked for and their readings stay absent
     HTTPSClient* https = nullptr; ///< without one the public address stays unknown; outlives the machine
     std::shared_ptr<WiFiClient> wifi{}; ///< asked in place of the machine's own client
+    /// What a disk service knows of a device; may wait. Without one only the kernel and udev are asked.
+    std::function<DeviceHint(const std::string& device)> volumeHint{};
 };
 
 /// The sources of one machine and the readers wired to them: what both programs have in common. Made and

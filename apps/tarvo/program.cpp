@@ -12,6 +12,7 @@
 #include "platform/desktop/network_manager_wifi.h"
 #include "platform/desktop/popover/pointer_position.h"
 #include "platform/desktop/popover/qt_popover.h"
+#include "platform/desktop/udisks_devices.h"
 #include "platform/linux/application_index.h"
 #include "platform/linux/linux_process_icons.h"
 #include "platform/linux/linux_wifi_client.h"
@@ -75,6 +76,15 @@ std::optional<Point> pointer() {
     return Point{static_cast<double>(position->x()), static_cast<double>(position->y())};
 }
 
+// A recorded machine has no UDisks to ask.
+std::function<DeviceHint(const std::string&)> makeVolumeHint(const ProgramOptions& options,
+                                                             const Clock& clock) {
+    if (!options.root.empty()) return nullptr;
+    const auto devices =
+        std::make_shared<desktop::UDisksDevices>(desktop::systemBus(QStringLiteral("tarvo-disks")), clock);
+    return [devices](const std::string& device) { return devices->hint(device); };
+}
+
 } // namespace
 
 Program::Program(desktop::QtApplication& application, desktop::SessionService& session,
@@ -87,7 +97,8 @@ Program::Program(desktop::QtApplication& application, desktop::SessionService& s
              httpsHelperPath(QCoreApplication::applicationDirPath().toStdString())),
       machine_({.root = options.root,
                 .https = options.root.empty() ? &https_ : nullptr,
-                .wifi = makeWiFi(options)},
+                .wifi = makeWiFi(options),
+                .volumeHint = makeVolumeHint(options, clock_)},
                clock_, dispatcher_),
       sharedDemand_(machine_.processDemand()),
       bluetooth_(bluetoothBus(options.root), options.root, dispatcher_), records_(dataFolder(), clock_),

@@ -17,6 +17,14 @@ struct VolumeValues {
     std::optional<bool> isInternal;
 };
 
+/// What a disk service of the desktop knows of a device such as "/dev/sda1".
+struct DeviceHint {
+    std::optional<std::string> label;
+    std::optional<bool> isRemovable;
+    bool isHidden = false;
+    bool operator==(const DeviceHint&) const = default;
+};
+
 class Volumes {
 public:
     virtual ~Volumes() = default;

@@ -13,13 +13,6 @@
 
 namespace tarvo::linux_platform {
 
-/// What a disk service of the desktop knows of a device such as "/dev/sda1".
-struct DeviceHint {
-    std::optional<std::string> label;
-    std::optional<bool> isRemovable;
-    bool isHidden = false;
-};
-
 struct VolumeSources {
     MeasureFileSystem measure = measureFileSystem;
     FileSystemLabel label = fileSystemLabel; ///< not asked on a recorded machine

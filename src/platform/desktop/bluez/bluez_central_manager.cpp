@@ -1,6 +1,5 @@
 #include "platform/desktop/bluez/bluez_central_manager.h"
 
-#include "platform/desktop/bluez/bluez_calls.h"
 #include "platform/desktop/bluez/bluez_names.h"
 
 #include <QDBusArgument>
@@ -92,8 +91,8 @@ void BluezCentralManager::askForOwner() {
 }
 
 void BluezCentralManager::askForObjects() {
-    send(*bus_, bluez::managedObjectsCall(), this, [this](const QDBusMessage& reply) {
-        auto objects = parseManagedObjects(reply);
+    send(*bus_, managedObjectsCall(bluez::service, bluez::root), this, [this](const QDBusMessage& reply) {
+        auto objects = parseBluezObjects(reply);
         if (!objects) {
             loseObjects();
             return;

@@ -15,7 +15,6 @@ inline const QString adapterInterface = QStringLiteral("org.bluez.Adapter1");
 inline const QString deviceInterface = QStringLiteral("org.bluez.Device1");
 inline const QString batteryInterface = QStringLiteral("org.bluez.Battery1");
 inline const QString percentage = QStringLiteral("Percentage");
-inline const QString managedObjectsSignature = QStringLiteral("a{oa{sa{sv}}}");
 
 /// Nothing on the bus is waited for longer than this.
 inline constexpr int timeoutMilliseconds = 2000;

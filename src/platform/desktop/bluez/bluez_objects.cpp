@@ -2,9 +2,7 @@
 
 #include "platform/desktop/bluez/bluez_names.h"
 
-#include <QDBusArgument>
 #include <QDBusMessage>
-#include <QDBusObjectPath>
 
 #include <algorithm>
 
@@ -118,22 +116,12 @@ std::vector<PairedBluetoothDevice> pairedDevicesOf(const BluezObjects& objects) 
     return paired;
 }
 
-std::optional<BluezObjects> parseManagedObjects(const QDBusMessage& reply) {
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != bluez::managedObjectsSignature) {
-        return std::nullopt;
-    }
+std::optional<BluezObjects> parseBluezObjects(const QDBusMessage& reply) {
+    const auto managed = parseManagedObjects(reply);
+    if (!managed) return std::nullopt;
     BluezObjects objects;
-    const auto argument = reply.arguments().at(0).value<QDBusArgument>();
-    argument.beginMap();
-    while (!argument.atEnd()) {
-        QDBusObjectPath path;
-        BluezObjects::Interfaces interfaces;
-        argument.beginMapEntry();
-        argument >> path >> interfaces;
-        argument.endMapEntry();
-        objects.add(path.path(), interfaces);
-    }
-    argument.endMap();
+    for (const auto& [path, interfaces] : *managed)
+        objects.add(path, interfaces);
     return objects;
 }
 

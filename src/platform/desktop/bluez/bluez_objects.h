@@ -2,6 +2,7 @@
 
 #include "platform/bluetooth.h"
 #include "platform/desktop/bluez/device_class.h"
+#include "platform/desktop/managed_objects.h"
 
 #include <QString>
 #include <QStringList>
@@ -34,7 +35,7 @@ struct BluezDevice {
 /// with signals; what is of no interest is ignored.
 class BluezObjects {
 public:
-    using Interfaces = QMap<QString, QVariantMap>;
+    using Interfaces = ManagedInterfaces;
 
     void add(const QString& path, const Interfaces& interfaces);
     void remove(const QString& path, const QStringList& interfaces);
@@ -55,6 +56,6 @@ private:
 std::vector<PairedBluetoothDevice> pairedDevicesOf(const BluezObjects& objects);
 
 /// The objects of a GetManagedObjects reply; absent when it is an error or of another form.
-std::optional<BluezObjects> parseManagedObjects(const QDBusMessage& reply);
+std::optional<BluezObjects> parseBluezObjects(const QDBusMessage& reply);
 
 } // namespace tarvo::desktop

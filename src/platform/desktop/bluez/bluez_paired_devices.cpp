@@ -1,6 +1,5 @@
 #include "platform/desktop/bluez/bluez_paired_devices.h"
 
-#include "platform/desktop/bluez/bluez_calls.h"
 #include "platform/desktop/bluez/bluez_names.h"
 #include "platform/desktop/bluez/bluez_objects.h"
 
@@ -12,7 +11,7 @@ std::optional<std::vector<PairedBluetoothDevice>> BluezPairedDevices::pairedDevi
         return bus.call(call, QDBus::Block, bluez::timeoutMilliseconds);
     };
     if (!bus.isConnected() || !saysYes(ask(nameHasOwnerCall(bluez::service)))) return std::nullopt;
-    const auto objects = parseManagedObjects(ask(bluez::managedObjectsCall()));
+    const auto objects = parseBluezObjects(ask(managedObjectsCall(bluez::service, bluez::root)));
     return objects ? std::optional(pairedDevicesOf(*objects)) : std::nullopt;
 }
 

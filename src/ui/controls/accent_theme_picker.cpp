@@ -65,13 +65,16 @@ AccentThemePicker::AccentThemePicker(std::function<void(AccentTheme)> onSelect, 
         auto* circle = new Circle(theme, this);
         circles_[static_cast<std::size_t>(theme)] = circle;
         row->addWidget(circle);
-        connect(circle, &QAbstractButton::clicked, this, [onSelect, theme] { onSelect(theme); });
+        // Assistive technology toggles without a click.
+        connect(circle, &QAbstractButton::toggled, this, [onSelect, theme](bool isChosen) {
+            if (isChosen) onSelect(theme);
+        });
     }
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void AccentThemePicker::setSelected(AccentTheme theme) {
-    circle(theme)->setChecked(true);
+    static_cast<PaintedButton*>(circle(theme))->setCheckedByProgram(true);
 }
 
 AccentTheme AccentThemePicker::selected() const {

@@ -39,7 +39,7 @@ void ModuleToggleTile::setLabelLines(int lines) {
 }
 
 void ModuleToggleTile::setOn(bool isOn) {
-    setChecked(isOn);
+    setCheckedByProgram(isOn);
 }
 
 QSize ModuleToggleTile::sizeHint() const {

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 
 namespace tarvo::ui {
 
@@ -18,6 +19,11 @@ void PaintedButton::setName(const std::string& name, bool asToolTip) {
     if (asToolTip) setToolTip(text);
     updateGeometry();
     update();
+}
+
+void PaintedButton::setCheckedByProgram(bool checked) {
+    const QSignalBlocker silent(this);
+    setChecked(checked);
 }
 
 double PaintedButton::emphasis() const {

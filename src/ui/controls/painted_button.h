@@ -15,6 +15,8 @@ class PaintedButton : public QAbstractButton {
 public:
     explicit PaintedButton(QWidget* parent = nullptr);
 
+    /// Checks the button without the signals that tell of the user's doing, which are toggled and clicked.
+    void setCheckedByProgram(bool checked);
     /// Nothing happens for an unchanged name. As a tool tip too where the button shows no text.
     void setName(const std::string& name, bool asToolTip = false);
 

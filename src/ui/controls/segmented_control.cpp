@@ -73,13 +73,17 @@ void SegmentedControl::addSegment() {
     segment->setAutoExclusive(true);
     segment->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const int index = static_cast<int>(segments_.size());
-    connect(segment, &QAbstractButton::clicked, this, [this, index] { onChange_(index); });
+    // Assistive technology toggles without a click.
+    connect(segment, &QAbstractButton::toggled, this, [this, index](bool isChosen) {
+        if (isChosen) onChange_(index);
+    });
     layout()->addWidget(segment);
     segments_.push_back(segment);
 }
 
 void SegmentedControl::setChosen(int index) {
-    if (QWidget* chosenSegment = segment(index)) static_cast<Segment*>(chosenSegment)->setChecked(true);
+    if (QWidget* chosenSegment = segment(index))
+        static_cast<Segment*>(chosenSegment)->setCheckedByProgram(true);
 }
 
 int SegmentedControl::chosen() const {

@@ -10,7 +10,7 @@ namespace {
 ModuleToggleTile* makeTile(SettingsSection& section, PanelContext& context, const BoundTile& tile) {
     auto* button = new ModuleToggleTile;
     button->setObjectName(QString::fromUtf8(tile.key.data(), static_cast<qsizetype>(tile.key.size())));
-    QObject::connect(button, &QAbstractButton::clicked, button, [&context, &tile](bool isOn) {
+    QObject::connect(button, &QAbstractButton::toggled, button, [&context, &tile](bool isOn) {
         SettingBindings(context.settings, context.notifications).set(tile.key, isOn);
     });
     section.onRefresh([button, &context, &tile] {

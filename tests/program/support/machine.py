@@ -36,6 +36,14 @@ class RecordedMachine:
                                    "Inactive(file): 0 kB\nShmem: 0 kB\nSReclaimable: 0 kB\nSwapTotal: 0 kB\n"
                                    "SwapFree: 0 kB\nCommitted_AS: 0 kB\n")
 
+    def add_battery(self, percent):
+        folder = "sys/class/power_supply/BAT0"
+        os.makedirs(os.path.join(self.folder, folder))
+        for name, value in {"type": "Battery", "present": 1, "status": "Discharging", "capacity": percent,
+                            "energy_full_design": 50_000_000, "energy_full": 48_000_000,
+                            "energy_now": 480_000 * percent, "power_now": 9_000_000, "cycle_count": 120}.items():
+            self.write(f"{folder}/{name}", f"{value}\n")
+
     def end(self):
         self._ended.set()
         self._ticker.join()

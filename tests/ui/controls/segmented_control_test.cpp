@@ -18,6 +18,15 @@ TEST(SegmentedControl, TellsOnlyWhatTheUserChose) {
     EXPECT_EQ(control.chosen(), 1);
 }
 
+TEST(SegmentedControl, TellsOfAToggleWithoutAClick) {
+    std::vector<int> told;
+    SegmentedControl control([&](int index) { told.push_back(index); });
+    control.setLabels({"Live", "24h", "7d"});
+    control.setChosen(0);
+    static_cast<QAbstractButton*>(control.segment(2))->toggle();
+    EXPECT_EQ(told, std::vector<int>{2});
+}
+
 TEST(SegmentedControl, KeepsItsChoiceWhenTheLabelsChange) {
     SegmentedControl control([](int) {});
     control.setLabels({"Live", "24h"});

@@ -59,6 +59,8 @@ TEST_F(SettingsPageTest, HasATileForEveryVisibilityFlag) {
         EXPECT_EQ(tile.isOn(), before) << setting.key;
         tile.click();
         EXPECT_EQ(parts.settings.boolean(setting.key), !before) << setting.key;
+        tile.toggle(); // as assistive technology does
+        EXPECT_EQ(parts.settings.boolean(setting.key), before) << setting.key;
     }
     EXPECT_EQ(styleChanges, 0);
 }

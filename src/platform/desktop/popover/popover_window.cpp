@@ -115,8 +115,9 @@ void PopoverWindow::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
+// A window that refuses would keep the program from ending.
 void PopoverWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
+    event->accept();
     if (closeWanted) closeWanted();
 }
 

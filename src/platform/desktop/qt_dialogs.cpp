@@ -15,6 +15,8 @@ namespace {
 
 using Buttons = std::vector<QAbstractButton*>;
 
+constexpr int leastTextWidth = 280;
+
 /// The roles put the buttons where the desktop has them: the first agrees, the last one of several declines.
 QMessageBox::ButtonRole roleOf(std::size_t index, std::size_t count) {
     if (index == 0) return QMessageBox::AcceptRole;
@@ -36,6 +38,19 @@ std::size_t pressedIn(const QMessageBox& box, const Buttons& buttons) {
     return found == buttons.end() ? buttons.size() - 1 : static_cast<std::size_t>(found - buttons.begin());
 }
 
+/// The message stands out, and a short explanation is not broken into a narrow column.
+void arrange(QMessageBox& box) {
+    if (auto* message = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        QFont font = message->font();
+        font.setBold(true);
+        message->setFont(font);
+    }
+    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        text->setMinimumWidth(leastTextWidth);
+    for (QAbstractButton* button : box.buttons())
+        button->setIcon({});
+}
+
 Buttons fill(QMessageBox& box, const Alert& alert) {
     box.setIcon(QMessageBox::Warning);
     box.setText(alertText(QString::fromStdString(alert.message)));
@@ -47,6 +62,7 @@ Buttons fill(QMessageBox& box, const Alert& alert) {
     Buttons buttons = addButtons(box, alert.buttons);
     box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
     box.setEscapeButton(buttons.back());
+    arrange(box);
     box.setWindowModality(Qt::ApplicationModal);
     return buttons;
 }

@@ -35,6 +35,9 @@ namespace {
 /// How long the end of the program waits for background work.
 constexpr std::chrono::milliseconds finishLimit{1500};
 
+/// How long a process is given to end before the lists are read anew.
+constexpr std::chrono::milliseconds endOfProcess{700};
+
 std::string preferencePath() {
     return linux_platform::preferenceFilePath(processEnvironment).value_or(std::string());
 }
@@ -167,8 +170,17 @@ ActionServices Program::actionServices(const ProgramOptions& options) {
             .localization = localization_,
             .dispatcher = dispatcher_,
             .processes = machine_.processControl(),
-            .refreshProcesses = [this] { model_->refreshProcessesAsync(); },
+            .refreshProcesses = [this] { processWasAskedToEnd(); },
             .root = options.root};
+}
+
+// A process needs a moment to end; the lists are read anew after it too.
+void Program::processWasAskedToEnd() {
+    model_->refreshProcessesAsync();
+    dispatcher_.after(endOfProcess, [this] {
+        if (model_->detailVisible()) model_->refreshProcessesAsync();
+        notificationCenter_.post(ui::processListChanged);
+    });
 }
 
 void Program::completePanels(ui::PanelContext& context) {

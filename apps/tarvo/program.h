@@ -55,6 +55,7 @@ private:
     desktop::DesktopStatusBar::Needs statusBarNeeds();
     PanelServices panelServices(const ProgramOptions& options);
     ActionServices actionServices(const ProgramOptions& options);
+    void processWasAskedToEnd();
     void completePanels(ui::PanelContext& context);
     AppServices appServices();
     desktop::HotKeyBinder hotKeyBinder() const;

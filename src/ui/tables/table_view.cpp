@@ -46,6 +46,9 @@ TableView::TableView(RecordTableModel& model, AppIconCache* icons, QWidget* pare
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollBar(new ThinScrollBar(this));
     viewport()->setAutoFillBackground(false);
+    QPalette clear; // the delegate draws the selection
+    clear.setColor(QPalette::Highlight, Qt::transparent);
+    setPalette(clear);
     observeModel();
 }
 

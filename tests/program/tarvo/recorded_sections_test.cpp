@@ -1,5 +1,5 @@
-// What the detail window says of recorded machines, word for word: every section but those that have no
-// readings in a recording. The expected texts stand in sections/<machine>.txt.
+// What the detail window says of recorded machines, word for word: every section that has readings in a
+// recording, so not the tables and the log. The expected texts stand in sections/<machine>.txt.
 
 #include "detail.h"
 
@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -22,9 +23,9 @@ namespace {
 
 using ui::DetailSection;
 
-constexpr std::array sectionsWithReadings{DetailSection::overview,  DetailSection::cpu,
-                                          DetailSection::memory,    DetailSection::battery,
-                                          DetailSection::bluetooth, DetailSection::sensors};
+constexpr std::array sectionsWithReadings{
+    DetailSection::overview, DetailSection::cpu,       DetailSection::memory, DetailSection::battery,
+    DetailSection::disk,     DetailSection::bluetooth, DetailSection::sensors};
 
 std::string expectedTexts(const std::string& machine) {
     std::ifstream file(std::string(TARVO_EXPECTED_SECTIONS) + "/" + machine + ".txt");
@@ -33,11 +34,19 @@ std::string expectedTexts(const std::string& machine) {
     return text.str();
 }
 
-// The size of the disk is that of the disk on which the recording lies.
-std::string withoutDiskSize(const std::string& texts) {
+// Where the texts are renewed instead of compared, see docs/testing.md.
+void writeTexts(const std::string& folder, const std::string& machine, const std::string& texts) {
+    std::ofstream(folder + "/" + machine + ".txt") << texts;
+}
+
+// The sizes of disks are those of the computer that runs the test; the lines of elements without words are
+// left out.
+std::string comparable(const std::string& texts) {
     QString text = QString::fromStdString(texts);
-    text.replace(QRegularExpression(QStringLiteral("Free \\d+ / \\d+ GB")), QStringLiteral("Free (here)"));
-    return text.toStdString();
+    text.replace(QRegularExpression(QStringLiteral("^(Free|/|[a-z]+) \\d+ / \\d+ GB$"),
+                                    QRegularExpression::MultilineOption),
+                 QStringLiteral("\\1 (size)"));
+    return text.replace(QRegularExpression(QStringLiteral("\n\n+")), QStringLiteral("\n")).toStdString();
 }
 
 class RecordedSections : public testing::TestWithParam<const char*> {
@@ -47,7 +56,7 @@ protected:
         model->start();
         dispatcher.runAll();
         recorded.letTimePass();
-        dispatcher.advance(std::chrono::seconds(4));
+        dispatcher.advance(std::chrono::seconds(2)); // one tick, which sees what has changed since
     }
 
     std::string texts(ui::DetailView& view, DetailSection section) {
@@ -82,7 +91,11 @@ TEST_P(RecordedSections, SayWhatTheMachineTells) {
     std::string said;
     for (const DetailSection section : sectionsWithReadings)
         said += texts(view, section);
-    EXPECT_EQ(withoutDiskSize(said), expectedTexts(GetParam()));
+    if (const char* folder = std::getenv("TARVO_RENEWED_SECTIONS")) {
+        writeTexts(folder, GetParam(), comparable(said));
+        GTEST_SKIP() << "written to " << folder << ", not compared";
+    }
+    EXPECT_EQ(comparable(said), expectedTexts(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Machines, RecordedSections,

@@ -97,7 +97,7 @@ class Desktop(ActionCase):
         self.close_dialog("Return")
 
     def wait_for_call(self, call):
-        wait_for(lambda: call in self.calls(), f"{call} among {self.calls()}")
+        wait_for(lambda: call in self.calls(), lambda: f"{call} among {self.calls()}")
 
 
 class Trash(ActionCase):

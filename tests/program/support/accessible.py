@@ -21,12 +21,11 @@ class Accessible:
         self.session = session
         printed = session.run("busctl", "--address=" + session.environment["DBUS_SESSION_BUS_ADDRESS"],
                               "--json=short", "call", "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")
-        self.address = json.loads(printed)["data"][0]
+        self.client = session.start_talking(PYTHON, CLIENT, json.loads(printed)["data"][0])
 
     def widgets(self):
         """The visible widgets from the outermost inwards. Empty while they change."""
-        printed = self._client("tree")
-        return json.loads(printed) if printed else []
+        return self._ask("tree") or []
 
     def names(self):
         return [widget["name"] for widget in self.widgets() if widget["name"]]
@@ -40,18 +39,27 @@ class Accessible:
         return next((widget for widget in self.widgets() if wanted.items() <= widget.items()), None)
 
     def wait_for(self, name, **wanted):
-        return wait_for(lambda: self.find(name, **wanted), f"\"{name}\" {wanted} among {self.names()}")
+        return wait_for(lambda: self.find(name, **wanted), lambda: f"\"{name}\" {wanted} among {self.names()}")
 
-    def wait_for_text(self, text):
-        wait_for(lambda: text in self.text(), f"\"{text}\" on the screen:\n{self.text()}")
+    def wait_for_text(self, *texts):
+        def missing(shown):
+            return [text for text in texts if text not in shown]
+        wait_for(lambda: not missing(self.text()), lambda: f"{missing(self.text())} on the screen:\n{self.text()}")
 
-    def wait_until_gone(self, text):
-        wait_for(lambda: (shown := self.text()) and text not in shown, f"the end of \"{text}\"")
+    def wait_until_gone(self, *texts):
+        def left(shown):
+            return [text for text in texts if text in shown]
+        wait_for(lambda: (shown := self.text()) and not left(shown), lambda: f"the end of {left(self.text())}")
 
     def press(self, name, **wanted):
         """Presses the last button of that kind as assistive technology does, once it is there."""
         wanted["name"] = name
-        wait_for(lambda: self._client("press", json.dumps(wanted)), f"a button {wanted} among {self.names()}")
+        wait_for(lambda: self._ask("press", wanted), lambda: f"a button {wanted} among {self.names()}")
 
-    def _client(self, *command):
-        return self.session.run(PYTHON, CLIENT, self.address, *command).strip()
+    def _ask(self, *question):
+        self.client.stdin.write(json.dumps(question) + "\n")
+        self.client.stdin.flush()
+        answer = self.client.stdout.readline()
+        if not answer:
+            raise AssertionError("the client of the accessibility bus has ended")
+        return json.loads(answer)

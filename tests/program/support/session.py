@@ -49,6 +49,14 @@ class Session:
         self.children.append(child)
         return child
 
+    def start_talking(self, *command):
+        """Starts a process in the session that reads lines and answers them."""
+        with open(self.path(os.path.basename(command[-2]) + ".log"), "ab") as errors:
+            child = subprocess.Popen(command, env=self.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                     stderr=errors, text=True, start_new_session=True)
+        self.children.append(child)
+        return child
+
     def run(self, *command, **environment):
         """Runs a tool to its end and returns what it printed."""
         done = subprocess.run(command, env=self.environment | environment, stdin=subprocess.DEVNULL, check=False,
@@ -77,6 +85,9 @@ class Session:
             except subprocess.TimeoutExpired:
                 os.killpg(child.pid, signal.SIGKILL)
                 child.wait(10)
+        for pipe in (child.stdin, child.stdout):
+            if pipe:
+                pipe.close()
         if child in self.children:
             self.children.remove(child)
 

@@ -8,6 +8,7 @@ The machine is a testbed of umockdev; the program reads it as its own.
 import json
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -15,7 +16,8 @@ import threading
 import unittest
 
 PROGRAM = ""
-TIME_LIMIT = 120  # seconds; the battery is looked at every ten
+TIME_LIMIT = 120  # seconds; the battery is looked at every ten, and shown with the look after
+END_LIMIT = 10  # seconds for the program to see that nobody reads on
 
 MAINS = "P: /devices/AC\nE: SUBSYSTEM=power_supply\nA: type=Mains\\n\nA: online=1\\n\n"
 BATTERY = "/devices/BAT0"
@@ -57,23 +59,44 @@ class MockedBattery(unittest.TestCase):
         # The shell tells where the testbed stands, which only what runs in it knows.
         script = 'printf %s "$UMOCKDEV_DIR" > "$0" && exec "$@"'
         program = [PROGRAM, "--format", "json", "--interval", "0.5", "--detail"]
-        environment = dict(os.environ, HOME=self.folder, XDG_CONFIG_HOME=self.path("config"), LC_ALL="C")
+        environment = dict(
+            os.environ, HOME=self.folder, XDG_CONFIG_HOME=self.path("config"), TMPDIR=self.folder, LC_ALL="C"
+        )
         self.process = subprocess.Popen(
             ["umockdev-run", "--device", devices, "--", "/bin/sh", "-c", script, self.path("testbed"), *program],
             stdout=subprocess.PIPE,
             stdin=subprocess.DEVNULL,
             env=environment,
             text=True,
+            start_new_session=True,
         )
         self.addCleanup(self.stop)
-        self.watchdog = threading.Timer(TIME_LIMIT, self.process.terminate)
+        self.is_late = False
+        self.watchdog = threading.Timer(TIME_LIMIT, self.give_up)
         self.watchdog.start()
         self.addCleanup(self.watchdog.cancel)
 
+    def give_up(self):
+        self.is_late = True
+        self.kill()
+
+    def kill(self):
+        """Ends the testbed and what runs in it: the testbed alone would wait for the program for good."""
+        try:
+            os.killpg(self.process.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
+
     def stop(self):
-        self.process.terminate()
-        self.process.wait()
+        # The program ends when nobody reads its lines. It is not sent a signal: in a testbed the threads of a program
+        # save the mask of signals in one place without a lock, and may leave the first thread with all of them blocked.
         self.process.stdout.close()
+        try:
+            self.process.wait(END_LIMIT)
+        except subprocess.TimeoutExpired:
+            self.kill()
+            self.process.wait()
+            self.fail(f"the program still ran {END_LIMIT} s after its output was closed")
 
     def lines(self):
         for line in self.process.stdout:
@@ -86,7 +109,7 @@ class MockedBattery(unittest.TestCase):
             last = record.get("battery")
             if last == expected:
                 return record
-        self.fail(f"the battery stayed {last}, not {expected}")
+        self.fail(f"the battery stayed {last}, not {expected}{self.reason()}")
 
     def wait_for_power(self, expected):
         last = None
@@ -94,7 +117,10 @@ class MockedBattery(unittest.TestCase):
             last = record.get("powerWatts")
             if last == expected:
                 return
-        self.fail(f"the power stayed {last}, not {expected}")
+        self.fail(f"the power stayed {last}, not {expected}{self.reason()}")
+
+    def reason(self):
+        return f": given up after {TIME_LIMIT} s" if self.is_late else ": the program ended"
 
     def place(self, path):
         with open(self.path("testbed"), encoding="utf-8") as file:

@@ -7,6 +7,7 @@
 #include "platform/linux/hwmon_chip.h"
 #include "platform/linux/snapper.h"
 #include "platform/linux/systemd_backups.h"
+#include "platform/local_time.h"
 #include "sensors/time_machine_text.h"
 
 #include <cstddef>
@@ -20,6 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (percent && !(*percent >= 0)) __builtin_trap();
     const auto name = latestBackupName(text);
     if (name && name->find('/') != std::string_view::npos) __builtin_trap();
+    if (name) parseLocalTime(*name, "yyyy-MM-dd-HHmmss");
     linux_platform::parseCPUList(text);
     linux_platform::parseHwmonAttribute(text);
     linux_platform::accessoryAddress(text);

@@ -1,4 +1,5 @@
 """The program's own bar on a real X server."""
+import colorsys
 import math
 import re
 import shutil
@@ -6,12 +7,23 @@ import signal
 import unittest
 
 from support.case import ProgramCase
+from support.pixels import pixels_of
 from support.program import write_preferences
 from support.waiting import wait_for
 from support.xfce import UPPER_EDGE, XfcePanel
 
 WIDTH = 1280
 BAR = f"{WIDTH}x26+0+0"
+# Ends of the hues, from 0 to 1, in their order.
+HUES = ((0.04, "red"), (0.14, "orange"), (0.25, "yellow"), (0.46, "green"), (0.68, "blue"), (0.88, "purple"), (1, "red"))
+
+
+def hue_of(pixel):
+    """The name of a colour's hue; absent for what is nearly grey."""
+    hue, saturation, value = colorsys.rgb_to_hsv(*(part / 255 for part in pixel))
+    if saturation < 0.5 or value < 0.3:
+        return None
+    return next(name for end, name in HUES if hue <= end)
 
 
 class Bar(ProgramCase):
@@ -57,6 +69,13 @@ class Bar(ProgramCase):
         program.wait_for_painted("CPU 23% · RAM 48%")
         self.picture("bar-text", crop=BAR)
 
+    def wait_for_hues(self, *names):
+        def shown():
+            rows = pixels_of(self.session, WIDTH - 120, 0, 120, 26)
+            return {hue_of(pixel) for row in rows for pixel in row} - {None}
+
+        wait_for(lambda: shown() == set(names), lambda: f"{names} on the bar, not {shown()}")
+
     def test_shows_the_graph(self):
         program = self.start_bar({"menuBarStyle": 1, "refreshInterval": 0.2})
         for step in range(40):
@@ -64,12 +83,18 @@ class Bar(ProgramCase):
             self.machine.cpu = round(50 + 40 * math.sin(step / 3))
             self.machine.set_memory(round(40 + 20 * math.sin(step / 7)))
             program.wait_for_painted("", after=mark)
+        self.wait_for_hues("blue", "purple")
         self.picture("bar-graph", crop=BAR)
 
     def test_shows_the_icon(self):
         program = self.start_bar({"menuBarStyle": 2})
         program.wait_for_painted("")
+        self.wait_for_hues("green")
         self.picture("bar-icon", crop=BAR)
+        self.machine.set_memory(70)
+        self.wait_for_hues("orange")
+        self.machine.cpu = 90
+        self.wait_for_hues("red")
 
     def test_shows_an_item_for_each_module(self):
         program = self.start_bar({"modularMenuBar": True, "menubar.network": True})

@@ -12,7 +12,8 @@ ANNOUNCED = re.compile(r"^(tarvo\.\w+: .*|)$")
 
 
 class Tarvo:
-    def __init__(self, session, machine=None, preferences=None, arguments=(), **environment):
+    def __init__(self, session, machine=None, preferences=None, arguments=(), program=None,
+                 **environment):
         self.session = session
         self.announced = []
         self.log_path = session.path("tarvo.log")
@@ -21,7 +22,7 @@ class Tarvo:
         if preferences is not None:
             write_preferences(session, preferences)
         root = ["--root", machine.folder] if machine else []
-        self.process = session.start(os.environ["TARVO_PROGRAM"], *root, *arguments, log="tarvo.log",
+        self.process = session.start(program or os.environ["TARVO_PROGRAM"], *root, *arguments, log="tarvo.log",
                                      **environment)
 
     def log(self):

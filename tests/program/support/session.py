@@ -9,6 +9,7 @@ import tempfile
 from .waiting import wait_for
 
 SCREEN = "1280x720"
+NOBODY = "http://127.0.0.1:9"  # a proxy that is none: no test asks a stranger's server
 
 
 class Session:
@@ -36,7 +37,7 @@ class Session:
             kept[variable] = self.path(name)
             os.mkdir(kept[variable], 0o700)
         return kept | {"LANG": "C.UTF-8", "QT_STYLE_OVERRIDE": "fusion", "NO_AT_BRIDGE": "1",
-                       "GTK_THEME": "Adwaita", "GIO_USE_VFS": "local", "QT_LOGGING_RULES": "tarvo.*=true"}
+                       "GTK_THEME": "Adwaita", "GIO_USE_VFS": "local", "https_proxy": NOBODY, "QT_LOGGING_RULES": "tarvo.*=true"}
 
     def path(self, *names):
         return os.path.join(self.folder, *names)

@@ -42,7 +42,6 @@ MemoryStatistics LinuxHostStatistics::memory() {
     const auto text = meminfo_.read();
     if (!text) return {};
     const auto info = parseMemInfo(*text);
-    if (!info.total) return {};
     return {physicalBytes(info), partitionPages(info, zramBytes(info.swapTotal), pageSize_), swapUsage(info)};
 }
 

@@ -84,13 +84,21 @@ TEST_F(HostStatisticsOfATree, NoticesACompressedDiskWhenSwapIsAdded) {
 }
 
 TEST_F(HostStatisticsOfATree, KnowsNothingOfMemoryWithoutATotal) {
-    for (const auto* const text : {"", "MemFree: 2048 kB\n", "MemTotal: lots\n"}) {
+    EXPECT_EQ(host.memory().swap, std::nullopt);
+    for (const auto* const text : {"\n", "MemFree: 2048 kB\n", "MemTotal: lots\n"}) {
         folder.write("proc/meminfo", text);
         const auto memory = host.memory();
         EXPECT_EQ(memory.physicalBytes, 0U);
         EXPECT_EQ(memory.pages, std::nullopt);
-        EXPECT_EQ(memory.swap, std::nullopt);
+        EXPECT_EQ(memory.swap, SwapUsage{});
     }
+}
+
+TEST_F(HostStatisticsOfATree, KnowsTheSwapWithoutATotalOfMemory) {
+    folder.write("proc/meminfo", "MemFree: 2048 kB\nSwapTotal: 1024 kB\nSwapFree: 512 kB\n");
+    const auto memory = host.memory();
+    EXPECT_EQ(memory.pages, std::nullopt);
+    EXPECT_EQ(memory.swap, (SwapUsage{.total = 1U << 20U, .used = 1U << 19U}));
 }
 
 TEST_F(HostStatisticsOfATree, ReadsLoadAverages) {

@@ -100,7 +100,8 @@ std::string_view helpText() {
            "  --version           print the version and end\n"
            "\n"
            "Which readings the text line has and the unit of temperatures follow the preferences.\n"
-           "The status is 0, or 2 for arguments that make no sense.\n";
+           "The status is 0, or 1 when the output cannot be written, or 2 for arguments that make\n"
+           "no sense.\n";
 }
 
 } // namespace tarvo::status

@@ -21,6 +21,7 @@
 #include "platform/linux/system_language.h"
 #include "platform/linux/xdg_directories.h"
 #include "platform/posix/environment.h"
+#include "readers/wifi_info.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -187,6 +188,7 @@ void Program::completePanels(ui::PanelContext& context) {
     actions_.complete(context);
     context.launchesAtLogin = [this] { return autostart_.isOn(); };
     context.setLaunchAtLogin = [this](bool launches) { autostart_.setOn(launches); };
+    context.askForNetworkName = [this] { WiFiInfo(machine_.wifi()).requestPermission(); };
     context.hotKeyText = [this] { return localization_.t(hotKeyText(hotKeys_.state())); };
 }
 

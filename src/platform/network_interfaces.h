@@ -38,7 +38,7 @@ public:
     virtual std::optional<std::vector<IPv4Entry>> addresses() = 0;
 };
 
-/// The joined Wi-Fi network. Called off the main thread.
+/// The joined Wi-Fi network. Asked off the main thread, for the permission on it.
 class WiFiClient {
 public:
     /// Location permission as the platform numbers it; 3 is "authorized always".

@@ -41,6 +41,7 @@ struct PanelParts {
             asked.push_back("kill " + std::to_string(process.pid));
         };
         made.launchesAtLogin = [this] { return launchesAtLogin; };
+        made.askForNetworkName = [this] { asked.push_back("network name"); };
         made.setLaunchAtLogin = [this](bool launches) { launchesAtLogin = launches; };
         return made;
     }

@@ -49,6 +49,8 @@ struct PanelContext {
     /// Whether the program starts with the session; absent functions leave the switch out.
     std::function<bool()> launchesAtLogin = {};
     std::function<void(bool)> setLaunchAtLogin = {};
+    /// Asks the user for the permission to read the Wi-Fi network's name, where the system has one.
+    std::function<void()> askForNetworkName = {};
     /// What became of the hot key, in a sentence.
     std::function<std::string()> hotKeyText = {};
 };

@@ -70,7 +70,7 @@ SettingsSection* makePanelSection(PanelContext& context, QWidget* parent) {
     addTileGrid(*section, context, isMac ? macTiles : otherTiles, tileLayout);
     section->addSwitch(keys::wifiSSIDEnabled,
                        {.cs = "Zobrazit název Wi-Fi sítě", .en = "Show Wi-Fi network name"},
-                       isMac ? locationNote : networkServiceNote);
+                       isMac ? locationNote : networkServiceNote, context.askForNetworkName);
     return section;
 }
 

@@ -35,10 +35,14 @@ void SettingsSection::addCaption(const LKey& text) {
     addText(TextRole::placeholder, [this, text] { return t(text); });
 }
 
-void SettingsSection::addSwitch(std::string_view key, const LKey& label, const LKey& caption) {
+void SettingsSection::addSwitch(std::string_view key, const LKey& label, const LKey& caption,
+                                std::function<void()> turnedOn) {
     addSwitch(
         label, caption, [this, key] { return context_.settings.boolean(key); },
-        [this, key](bool isOn) { bindings_.set(key, isOn); });
+        [this, key, turnedOn = std::move(turnedOn)](bool isOn) {
+            bindings_.set(key, isOn);
+            if (isOn && turnedOn) turnedOn();
+        });
 }
 
 void SettingsSection::addSwitch(const LKey& label, const LKey& caption, std::function<bool()> read,

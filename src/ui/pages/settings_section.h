@@ -25,7 +25,8 @@ public:
     void addText(TextRole role, std::function<std::string()> text);
     void addCaption(const LKey& text);
     /// A switch at the right of its label, with an explaining caption below unless that is empty.
-    void addSwitch(std::string_view key, const LKey& label, const LKey& caption = {});
+    void addSwitch(std::string_view key, const LKey& label, const LKey& caption = {},
+                   std::function<void()> turnedOn = {});
     /// The same for a state that is kept elsewhere.
     void addSwitch(const LKey& label, const LKey& caption, std::function<bool()> read,
                    std::function<void(bool)> write);

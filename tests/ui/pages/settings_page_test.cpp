@@ -14,6 +14,7 @@
 namespace tarvo::ui {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -155,6 +156,14 @@ TEST_F(SettingsPageTest, TheSwitchesAreBound) {
     EXPECT_TRUE(parts.settings.wifiSSIDEnabled());
     button("Launch at Login").click();
     EXPECT_TRUE(parts.launchesAtLogin);
+}
+
+TEST_F(SettingsPageTest, ThePermissionForTheNetworkNameIsAskedForWhenTheNameIsTurnedOn) {
+    button("Show Wi-Fi network name").click();
+    EXPECT_THAT(parts.asked, ElementsAre("network name"));
+    button("Show Wi-Fi network name").click();
+    EXPECT_FALSE(parts.settings.wifiSSIDEnabled());
+    EXPECT_THAT(parts.asked, ElementsAre("network name")) << "not when it is turned off";
 }
 
 TEST_F(SettingsPageTest, ALanguageIsShownAtOnce) {

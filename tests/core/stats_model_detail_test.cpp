@@ -7,6 +7,26 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// The same machine, every answer another one.
+void changeEveryReading(ScriptedReaders& script) {
+    script.cpu = {99, {98, 100}};
+    script.memory.memPercent = 90;
+    script.memory.memUsedGB = 14.4;
+    script.load = LoadAverages{4, 2, 1};
+    script.network = {3'000, 1'500};
+    script.space = DiskSpace{1, 2};
+    script.battery = BatteryInfo{.percentage = 5};
+    script.diskIO = {};
+    script.localIP.reset();
+    script.sensors = {};
+    script.gpuUtil.reset();
+    script.byCPU.clear();
+    script.byMemory.clear();
+    script.netProcesses.clear();
+    script.timeMachine = {};
+    script.ssid.reset();
+}
+
 TEST_F(StatsModelTest, WithNoDetailViewOpenTheDetailedReadingsAreNeverTaken) {
     start();
     dispatcher.advance(1h);
@@ -73,30 +93,54 @@ TEST_F(StatsModelTest, AnAddressThatIsGoneBecomesAbsent) {
     EXPECT_FALSE(snap().localIP);
 }
 
-TEST_F(StatsModelTest, DetailFieldsKeepTheirLastValuesWhenTheViewCloses) {
+TEST_F(StatsModelTest, OnlyWhatNeedsNoDetailViewFollowsTheMachineWhenTheViewCloses) {
     start();
     store.set("wifiSSIDEnabled", true);
     model->setDetailVisible(true);
-    script.diskIO.read += 2'000;
+    script.diskIO = {6'000, 5'000};
     tick();
+    script.publicIPRequests.at(0)("203.0.113.5");
+    dispatcher.runMain();
     const StatsSnapshot open = snap();
+    EXPECT_EQ(open.diskReadRate, 1'000);
+    EXPECT_EQ(open.cpuTemp, 55);
+    EXPECT_EQ(open.publicIP, "203.0.113.5");
+    EXPECT_EQ(open.wifiSSID, "Attic");
+
     model->setDetailVisible(false);
-    script.diskIO = {};
-    script.localIP.reset();
-    script.sensors = {};
-    script.cpu.total = 99;
-    script.space = DiskSpace{1, 2};
+    changeEveryReading(script);
+    tick();
+    StatsSnapshot expected = open;
+    expected.cpu = 99;
+    expected.perCore = {98, 100};
+    expected.memPercent = 90;
+    expected.memUsedGB = 14.4;
+    expected.loadAvg1 = 4;
+    expected.loadAvg5 = 2;
+    expected.loadAvg15 = 1;
+    expected.netInRate = 1'000;
+    expected.netOutRate = 500;
+    expected.totalNetIn = 3'000;
+    expected.totalNetOut = 1'500;
+    EXPECT_EQ(snap(), expected);
+
     dispatcher.advance(1min);
-    EXPECT_EQ(snap().diskReadRate, open.diskReadRate);
-    EXPECT_EQ(snap().localIP, open.localIP);
-    EXPECT_EQ(snap().cpuTemp, 55);
-    EXPECT_EQ(snap().fanRPMs, open.fanRPMs);
-    EXPECT_EQ(snap().gpuUtil, 33);
-    EXPECT_EQ(snap().topCPU, open.topCPU);
-    EXPECT_EQ(snap().timeMachine, open.timeMachine);
-    EXPECT_EQ(snap().wifiSSID, "Attic");
-    EXPECT_EQ(snap().cpu, 99);
-    EXPECT_EQ(snap().diskFreeGB, 1);
+    expected.netInRate = expected.netOutRate = 0;
+    expected.diskFreeGB = 1;
+    expected.diskTotalGB = 2;
+    expected.battery = BatteryInfo{.percentage = 5};
+    EXPECT_EQ(snap(), expected);
+}
+
+TEST_F(StatsModelTest, WithoutDisksTheirRatesStayZero) {
+    script.diskIO = {};
+    start();
+    model->setDetailVisible(true);
+    for (int i = 0; i < 3; ++i) {
+        tick();
+        EXPECT_EQ(snap().diskReadRate, 0);
+        EXPECT_EQ(snap().diskWriteRate, 0);
+    }
 }
 
 TEST_F(StatsModelTest, ThePublicAddressIsFetchedOnceAndThenEveryFiveMinutesForGood) {

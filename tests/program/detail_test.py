@@ -2,6 +2,7 @@
 import re
 import shutil
 import signal
+import socket
 import unittest
 
 from support.case import ProgramCase
@@ -14,10 +15,11 @@ SECTIONS = ["overview", "cpu", "memory", "battery", "disk", "network", "bluetoot
 # The sidebar: its first row stands below its margin, each row is as high.
 FIRST_ROW, ROW_HEIGHT, ROW_MIDDLE = 12, 32, 16
 SEARCH_Y = 83
+FIRST_TITLE = (240, 130)
 
 
 class DetailSections(ProgramCase):
-    def open(self, machine=True, preferences=None):
+    def launch(self, machine=True, preferences=None):
         if machine:
             self.program = self.start(preferences, TARVO_STATUS_BAR="bar", QT_LOGGING_RULES=LOGGED)
         else:
@@ -26,6 +28,12 @@ class DetailSections(ProgramCase):
             self.addCleanup(self._check_log, self.program)
         self.program.wait_for_window("DOCK")
         self.program.wait_for_log('painted "CPU')
+
+    def open(self, machine=True, preferences=None):
+        self.launch(machine, preferences)
+        self.open_window()
+
+    def open_window(self):
         self.click(WIDTH - 40, 13, 3)
         wait_for(lambda: self.program.alive() and self.program.windows("NORMAL"), "the menu")
         wait_for(self.choose_first_row, "the detail window")
@@ -38,6 +46,10 @@ class DetailSections(ProgramCase):
                                                                                 "_NET_WM_NAME")
                  and "SKIP_TASKBAR" not in self.session.run("xprop", "-id", window, "_NET_WM_STATE")]
         return found[0] if found else None
+
+    def close_window(self):
+        self.press("alt+F4")
+        wait_for(lambda: self.program.alive() and not self.detail_window(), "the end of the window")
 
     def is_active(self):
         return self.window in self.session.run("xprop", "-root", "_NET_ACTIVE_WINDOW")
@@ -62,6 +74,16 @@ class DetailSections(ProgramCase):
 
     def wait_for_table(self, pattern, after=0):
         return self.program.wait_for_log("^tarvo\\.detail: table " + pattern, after)
+
+    def click_first_title(self):
+        self.click_in_window(*FIRST_TITLE)
+
+    # Ctrl and the number of a column sort by it, and again the other way; so does a click on its title.
+    def sort_both_ways(self, column, first, second, act):
+        for direction in (first, second):
+            mark = self.program.mark()
+            act()
+            self.wait_for_table(f"\\d+ of \\d+, column {column} {direction}", mark)
 
     def test_shows_every_section_by_mouse(self):
         self.open()
@@ -93,13 +115,10 @@ class DetailSections(ProgramCase):
         self.open(machine=False)
         mark = self.select("processes")
         self.wait_for_table(r'[1-9]\d* of \d+, column 2 down', mark)
-        # Ctrl and the number of a column sort by it, and again the other way; so does a click on its title.
         self.click_in_window(500, 300)
-        for column, first, second in ((1, "up", "down"), (2, "down", "up"), (3, "down", "up"), (4, "down", "up")):
-            for direction in (first, second):
-                mark = self.program.mark()
-                self.press(f"ctrl+{column}")
-                self.wait_for_table(f"\\d+ of \\d+, column {column - 1} {direction}", mark)
+        self.sort_both_ways(0, "up", "down", self.click_first_title)
+        for column in range(1, 4):
+            self.sort_both_ways(column, "down", "up", lambda number=column + 1: self.press(f"ctrl+{number}"))
         self.press("ctrl+f")
         mark = self.program.mark()
         self.session.run("xdotool", "type", "PYTHON3")
@@ -133,9 +152,22 @@ class DetailSections(ProgramCase):
         self.open(machine=False)
         for name in ("processes", "network", "disk", "sensors", "bluetooth"):
             self.click_in_window(90, FIRST_ROW + SECTIONS.index(name) * ROW_HEIGHT + ROW_MIDDLE)
-        self.press("alt+F4")
-        wait_for(lambda: not self.detail_window(), "the end of the window")
+        self.close_window()
         self.assertEqual(self.program.terminate(), 0)
+
+    def test_sorts_and_searches_the_connections(self):
+        with socket.create_server(("127.0.0.1", 0)) as server:
+            self.open(machine=False)
+            mark = self.select("network")
+            self.wait_for_table(r"[1-9]\d* of \d+, column 0 up", mark)
+            self.click_in_window(500, 600)
+            for column in range(1, 5):
+                self.sort_both_ways(column, "up", "down", lambda number=column + 1: self.press(f"ctrl+{number}"))
+            self.sort_both_ways(0, "up", "down", self.click_first_title)
+            mark = self.program.mark()
+            self.press("ctrl+f")
+            self.session.run("xdotool", "type", f":{server.getsockname()[1]}")
+            self.wait_for_table(r'1 of \d+, .*\|127\.0\.0\.1:', mark)
 
 
 if __name__ == "__main__":

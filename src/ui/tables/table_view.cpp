@@ -62,19 +62,23 @@ void TableView::observeModel() {
         std::fill(idealWidths_.begin(), idealWidths_.end(), 0);
         fitColumns();
     });
-    connect(header_, &QHeaderView::sectionClicked, this, [this](int column) {
-        if (!model_.columns()[static_cast<std::size_t>(column)].sorts) return;
-        const auto first = static_cast<Qt::SortOrder>(
-            model_.headerData(column, Qt::Horizontal, Qt::InitialSortOrderRole).toInt());
-        const auto other = first == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-        sortBy(column, model_.sortColumn() == column && model_.sortOrder() == first ? other : first);
-    });
+    // Two quick clicks are two clicks: the second turns the order too.
+    connect(header_, &QHeaderView::sectionClicked, this, &TableView::titleClicked);
+    connect(header_, &QHeaderView::sectionDoubleClicked, this, &TableView::titleClicked);
     connect(header_, &QHeaderView::sectionResized, this, [this] {
         if (!fits_) userSized_ = true;
     });
     connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
         if (isButton(index)) pressButton(index);
     });
+}
+
+void TableView::titleClicked(int column) {
+    if (!model_.columns()[static_cast<std::size_t>(column)].sorts) return;
+    const auto first = static_cast<Qt::SortOrder>(
+        model_.headerData(column, Qt::Horizontal, Qt::InitialSortOrderRole).toInt());
+    const auto other = first == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortBy(column, model_.sortColumn() == column && model_.sortOrder() == first ? other : first);
 }
 
 void TableView::sortBy(int column, Qt::SortOrder order) {
@@ -175,7 +179,7 @@ bool TableView::sortByKey(const QKeyEvent& event) {
     const int column = event.key() - Qt::Key_1;
     if (event.modifiers() != Qt::ControlModifier || column < 0 || column >= model_.columnCount())
         return false;
-    emit header_->sectionClicked(column);
+    titleClicked(column);
     return true;
 }
 

@@ -46,6 +46,7 @@ private:
     };
 
     void observeModel();
+    void titleClicked(int column);
     void rememberAnchors();
     void restoreAnchor();
     void fitColumns();

@@ -44,6 +44,16 @@ struct TableViewTest : ::testing::Test {
             QApplication::sendEvent(view.header().viewport(), &event);
         }
     }
+    void doubleClickHeader(int column) {
+        clickHeader(column);
+        const QPoint place(view.header().sectionViewportPosition(column) + 10, 10);
+        for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, place, view.header().viewport()->mapToGlobal(place), Qt::LeftButton,
+                              type == QEvent::MouseButtonDblClick ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(view.header().viewport(), &event);
+        }
+    }
     void click(int row, int column) {
         const QPoint place = view.visualRect(model.index(row, column)).center();
         for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
@@ -73,6 +83,13 @@ TEST_F(TableViewTest, SortsByAClickOnATitleAndTurnsAtTheNext) {
     clickHeader(ProcessTableModel::nameColumn);
     EXPECT_EQ(view.header().sortIndicatorOrder(), Qt::AscendingOrder);
     EXPECT_EQ(model.sortColumn(), ProcessTableModel::nameColumn);
+}
+
+TEST_F(TableViewTest, TakesTwoQuickClicksOnATitleForTwo) {
+    doubleClickHeader(ProcessTableModel::cpuColumn);
+    EXPECT_EQ(view.header().sortIndicatorSection(), ProcessTableModel::cpuColumn);
+    EXPECT_EQ(view.header().sortIndicatorOrder(), Qt::AscendingOrder);
+    EXPECT_EQ(pidAt(0), "1");
 }
 
 TEST_F(TableViewTest, SortsByTheNumberOfAColumn) {

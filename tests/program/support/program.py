@@ -31,8 +31,8 @@ class Tarvo:
 
     def wait_for_log(self, pattern, after=0):
         """Waits for a line that the pattern is found in, from the character `after` on."""
-        return wait_for(lambda: self.alive() and re.search(pattern, self.log()[after:], re.MULTILINE),
-                        f"/{pattern}/ in the log:\n{self.log()}")
+        return wait_for(lambda: self.alive() and self._nudge() and re.search(pattern, self.log()[after:], re.MULTILINE),
+                        lambda: f"/{pattern}/ in the log:\n{self.log()}")
 
     def wait_for_painted(self, text, after=0):
         self.wait_for_log("painted \"" + re.escape(text.replace("\n", "\\n")) + "\"$", after)

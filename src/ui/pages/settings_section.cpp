@@ -24,15 +24,23 @@ void SettingsSection::refresh() {
 }
 
 void SettingsSection::addText(TextRole role, std::function<std::string()> text) {
+    addWidget(makeText(role, std::move(text)));
+}
+
+TextLabel* SettingsSection::makeText(TextRole role, std::function<std::string()> text) {
     TextLabelFields fields{"", role, role == TextRole::rowLabel ? colors::primary : colors::secondary};
     fields.wraps = role == TextRole::placeholder;
     auto* label = new TextLabel(fields);
-    addWidget(label);
     onRefresh([label, text = std::move(text)] { label->setText(text()); });
+    return label;
 }
 
 void SettingsSection::addCaption(const LKey& text) {
-    addText(TextRole::placeholder, [this, text] { return t(text); });
+    addWidget(makeCaption(text));
+}
+
+TextLabel* SettingsSection::makeCaption(const LKey& text) {
+    return makeText(TextRole::placeholder, [this, text] { return t(text); });
 }
 
 void SettingsSection::addSwitch(std::string_view key, const LKey& label, const LKey& caption,
@@ -48,7 +56,11 @@ void SettingsSection::addSwitch(std::string_view key, const LKey& label, const L
 void SettingsSection::addSwitch(const LKey& label, const LKey& caption, std::function<bool()> read,
                                 std::function<void(bool)> write) {
     auto* button = new SwitchButton;
-    addControl(label, button);
+    // The caption stands closer to its switch than the next control.
+    auto* group = new QVBoxLayout;
+    group->setSpacing(metrics::hair);
+    group->addLayout(labelled(label, button));
+    column_->addLayout(group);
     connect(button, &QAbstractButton::toggled, this, [read, write = std::move(write)](bool isOn) {
         if (isOn != read()) write(isOn);
     });
@@ -56,22 +68,28 @@ void SettingsSection::addSwitch(const LKey& label, const LKey& caption, std::fun
         button->setChecked(read());
         button->setName(t(label));
     });
-    if (!caption.en.empty()) addCaption(caption);
+    if (!caption.en.empty()) group->addWidget(makeCaption(caption));
 }
 
 void SettingsSection::addControl(const LKey& label, QWidget* control, bool below) {
-    auto* name = new TextLabel({"", TextRole::rowLabel});
-    onRefresh([this, name, label] { name->setText(t(label)); });
-    if (below) {
-        addWidget(name);
-        addWidget(control);
+    if (!below) {
+        column_->addLayout(labelled(label, control));
         return;
     }
+    addWidget(makeLabel(label));
+    addWidget(control);
+}
+
+QLayout* SettingsSection::labelled(const LKey& label, QWidget* control) {
     auto* row = new QHBoxLayout;
     row->setSpacing(metrics::regular);
-    row->addWidget(name, 1);
+    row->addWidget(makeLabel(label), 1);
     row->addWidget(control);
-    column_->addLayout(row);
+    return row;
+}
+
+TextLabel* SettingsSection::makeLabel(const LKey& text) {
+    return makeText(TextRole::rowLabel, [this, text] { return t(text); });
 }
 
 void SettingsSection::addThreshold(std::string_view key, const LKey& label, std::string_view unit,

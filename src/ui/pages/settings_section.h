@@ -2,6 +2,7 @@
 
 #include "ui/controls/stepper.h"
 #include "ui/elements/card_background.h"
+#include "ui/elements/text_label.h"
 #include "ui/pages/panel_context.h"
 #include "ui/pages/setting_bindings.h"
 #include "ui/style/typography.h"
@@ -44,6 +45,11 @@ protected:
     SettingBindings bindings_; // NOLINT
 
 private:
+    TextLabel* makeText(TextRole role, std::function<std::string()> text);
+    TextLabel* makeCaption(const LKey& text);
+    TextLabel* makeLabel(const LKey& text);
+    QLayout* labelled(const LKey& label, QWidget* control);
+
     QVBoxLayout* column_;
     std::vector<std::function<void()>> tasks_;
 };

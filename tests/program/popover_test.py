@@ -3,8 +3,9 @@ import json
 import re
 import unittest
 
+from support import accessible
 from support.panel import PanelCase, WIDTH
-from support.program import preference_path
+from support.program import Tarvo, preference_path
 from support.waiting import wait_for
 
 # The setting behind each tile, the tile's name, and what only its card or row shows: every second one, and the rest.
@@ -142,6 +143,24 @@ class Settings(PanelCase):
         self.screen.press("Zpět")
         self.screen.wait_for("Paměť 48%, 3.7 / 8 GB")
         self.assertEqual(self.stored()["appLanguage"], "cs")
+
+    def test_a_change_survives_a_restart(self):
+        self.start_program()
+        self.open()
+        self.show_settings()
+        self.screen.press("Disk", role="check box")
+        self.screen.press("CPU above +")
+        wait_for(lambda: self.stored().get("cpuAlertThreshold") == 95, "the stored threshold")
+        self.close_by_key()
+        self.assertEqual(self.program.terminate(), 0)
+        self.program = Tarvo(self.session, self.machine, TARVO_STATUS_BAR="bar", **accessible.ENVIRONMENT)
+        self.addCleanup(self._check_log, self.program)
+        self.program.wait_for_window("DOCK")
+        self.open()
+        self.screen.wait_for_text("Total Transferred")
+        self.assertNotIn("GB free of", self.screen.text())
+        self.show_settings()
+        self.screen.wait_for_text("95 %")
 
     def test_what_the_bar_shows_follows_at_once(self):
         self.start_program()

@@ -15,12 +15,12 @@ NOBODY = "http://127.0.0.1:9"  # a proxy that is none: no test asks a stranger's
 class Session:
     """Everything a desktop program meets; ends with everything that was started in it."""
 
-    def __init__(self, window_manager=True, dpi=96):
+    def __init__(self, window_manager=True, dpi=96, screen=SCREEN):
         self.folder = tempfile.mkdtemp(prefix="tarvo-session-")
         self.children = []
         self.environment = self._environment()
         try:
-            self._start_x_server(dpi)
+            self._start_x_server(dpi, screen)
             self._start_bus()
             if window_manager:
                 self._start_window_manager()
@@ -97,11 +97,11 @@ class Session:
             self.stop(child)
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def _start_x_server(self, dpi):
+    def _start_x_server(self, dpi, screen):
         reading, writing = os.pipe()
         with open(self.path("xvfb.log"), "ab") as output:
             child = subprocess.Popen(
-                ["Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN + "x24", "-dpi", str(dpi), "-nolisten",
+                ["Xvfb", "-displayfd", str(writing), "-screen", "0", screen + "x24", "-dpi", str(dpi), "-nolisten",
                  "tcp", "-noreset"], pass_fds=[writing], stdin=subprocess.DEVNULL, stdout=output, stderr=output,
                 env=self.environment, start_new_session=True)
         os.close(writing)

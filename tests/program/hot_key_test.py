@@ -29,7 +29,9 @@ class HotKey(ProgramCase):
     def start_listener(self):
         """A window that has the keyboard and writes down what it hears."""
         self.session.start("xev", "-event", "keyboard", "-event", "focus", log="xev.log")
+        self.focus_listener()
 
+    def focus_listener(self):
         def activated():
             windows = self.session.run("xdotool", "search", "--name", "Event Tester").split()
             if windows:
@@ -42,13 +44,21 @@ class HotKey(ProgramCase):
         with open(self.session.path("xev.log"), encoding="utf-8") as file:
             return file.read()
 
+    def toggle(self, program, event):
+        """Presses the keys and waits for what the popover, which takes the keyboard and gives it back, makes of it."""
+        mark = program.mark()
+        self.press(HOT_KEY)
+        program.wait_for_log(r"^tarvo\.popover: " + event, after=mark)
+
     def test_is_heard_while_another_window_has_the_keyboard_which_hears_nothing_of_it(self):
         program = self.start_active()
         self.start_listener()
         self.press("a")
         wait_for(lambda: "keysym 0x61, a" in self.heard(), "the letter in the listener")
-        self.press(HOT_KEY)
-        self.wait_for_presses(program, 1)
+        self.toggle(program, "shown")
+        self.toggle(program, "closed")
+        self.wait_for_presses(program, 2)
+        self.focus_listener()
         self.press("b")
         wait_for(lambda: "keysym 0x62, b" in self.heard(), "the next letter in the listener")
         self.assertNotIn(", M)", self.heard())

@@ -76,6 +76,8 @@ PortalHotKey::PortalHotKey(const KeyCombination& keys, HotKeyEvents events, QDBu
       texts_(std::move(texts)), portal_(service, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
+    // A slot is only found when the types of its arguments are known by their names.
+    qRegisterMetaType<QDBusObjectPath>();
     connect(&portal_, &QDBusServiceWatcher::serviceOwnerChanged, this, &PortalHotKey::ownerChanged);
     bus_.connect(service, path, shortcutsInterface, QStringLiteral("Activated"), this,
                  SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));

@@ -4,8 +4,6 @@
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 
-#include <utility>
-
 namespace tarvo::desktop {
 
 namespace {
@@ -15,7 +13,6 @@ const QString root = QStringLiteral("/org/freedesktop/UDisks2");
 const QString blockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
 const QString driveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
 
-constexpr int longestWait = 2000; // ms
 constexpr std::chrono::seconds lifetime{5};
 
 bool isTrue(const QVariantMap& properties, const char* key) {
@@ -78,7 +75,9 @@ DeviceHint UDisksDevices::hint(const std::string& device) {
 
 std::map<std::string, DeviceHint> UDisksDevices::ask() {
     const auto bus = connect_();
-    const auto reply = [&bus](const QDBusMessage& call) { return bus.call(call, QDBus::Block, longestWait); };
+    const auto reply = [&bus, limit = static_cast<int>(patience_.count())](const QDBusMessage& call) {
+        return bus.call(call, QDBus::Block, limit);
+    };
     if (!bus.isConnected() || !saysYes(reply(nameHasOwnerCall(service)))) return {};
     return udisksHints(
         parseManagedObjects(reply(managedObjectsCall(service, root))).value_or(ManagedObjects{}));

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace tarvo::desktop {
 namespace {
 
@@ -57,6 +59,22 @@ TEST(UDisksHints, ADeviceIsFoundByEachOfItsPaths) {
         EXPECT_EQ(hints.at(path).label, "Home") << path;
 }
 
+TEST(UDisksHints, WhatIsOfAnotherTypeIsNotKnown) {
+    const QVariantMap properties{{"Device", bytes("/dev/sda1")},
+                                 {"IdLabel", QStringList{"a", "b"}},
+                                 {"HintIgnore", "true"},
+                                 {"Drive", 3},
+                                 {"Symlinks", "/dev/disk/by-id/one"}};
+    const auto hints = udisksHints({{"/block", {{block, properties}}}, {"/empty", {{block, {}}}}});
+    EXPECT_EQ(hints.size(), 1U);
+    EXPECT_EQ(hints.at("/dev/sda1"), DeviceHint{});
+}
+
+TEST(UDisksHints, ADriveThatIsNotThereLeavesRemovableUnknown) {
+    EXPECT_EQ(udisksHints({{"/block", {{block, blockOn("/dev/sda1", "/gone")}}}}).at("/dev/sda1").isRemovable,
+              std::nullopt);
+}
+
 class UDisks : public testing::Test {
 protected:
     TestBus bus;
@@ -89,6 +107,17 @@ TEST_F(UDisks, IsAskedOnceForAListing) {
     udisks.hold("{}");
     clock.advance(std::chrono::seconds(5));
     EXPECT_EQ(devices.hint("/dev/sdb1"), DeviceHint{}) << "it was taken out";
+}
+
+TEST_F(UDisks, ThatDoesNotAnswerIsAskedOnceForAListing) {
+    if (!MockService::isInstalled()) GTEST_SKIP() << "python3-dbusmock is not installed";
+    MockUDisks udisks(bus);
+    ASSERT_TRUE(udisks.start());
+    ASSERT_EQ(::kill(static_cast<pid_t>(udisks.processId()), SIGSTOP), 0);
+    UDisksDevices hurried([this] { return ++connections, connection; }, clock, std::chrono::milliseconds(50));
+    EXPECT_EQ(hurried.hint("/dev/sda1"), DeviceHint{});
+    EXPECT_EQ(hurried.hint("/dev/sdb1"), DeviceHint{});
+    EXPECT_EQ(connections, 1);
 }
 
 TEST_F(UDisks, ThatDoesNotRunKnowsNothing) {

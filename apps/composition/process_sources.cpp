@@ -13,9 +13,7 @@ using namespace linux_platform;
 ProcessSources::ProcessSources(const Root& root, Clock& clock)
     : sampler(root, clock, [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }),
       demand([this](std::int64_t limit) { return topProcesses(demandTable, ProcessSort::cpu, limit); }),
-      // Only this machine's processes can be ended: one of a recorded machine is none, unless it started at
-      // the very same tick.
-      control(Root(), [this](std::int32_t pid) { return sampler.listedStartTime(pid); }),
+      control(root, [this](std::int32_t pid) { return sampler.listedStartTime(pid); }),
       sockets(root, std::make_unique<KernelSockets>(root)),
       traffic(root, std::make_unique<KernelSockets>(root)) {}
 

@@ -35,9 +35,6 @@ public:
     /// This outlives the panel.
     void complete(ui::PanelContext& panel);
 
-    QuickActions& quickActions() { return quickActions_; }
-    Dialogs& dialogs() { return dialogs_; }
-
 private:
     desktop::QtDialogs dialogs_;
     linux_platform::LinuxDesktopActions desktop_;

@@ -1,5 +1,7 @@
 #include "command_line.h"
 
+#include "platform/linux/root.h"
+
 #include <fmt/format.h>
 
 namespace tarvo {
@@ -12,8 +14,9 @@ CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
         if (argument == "--version") return ShowVersion{};
         if (argument != "--root") return UsageError{fmt::format("unknown argument '{}'", argument)};
         if (++index == arguments.size()) return UsageError{"--root needs a folder"};
+        if (arguments[index].empty()) return UsageError{"--root needs a folder"};
         options.root = arguments[index];
-        if (options.root.empty()) return UsageError{"--root needs a folder"};
+        if (linux_platform::Root(options.root).isLive()) options.root.clear();
     }
     return options;
 }

@@ -1,5 +1,6 @@
 #include "command_line.h"
 #include "core/application_identifier.h"
+#include "platform/build_options.h"
 #include "platform/desktop/display_check.h"
 #include "platform/desktop/paint_log.h"
 #include "platform/desktop/session_service.h"
@@ -35,7 +36,8 @@ int runProgram(int argumentCount, char** arguments, const ProgramOptions& option
         fmt::print(stderr, "tarvo: {}\n", *missing);
         return displayStatus;
     }
-    desktop::QtApplication application(argumentCount, arguments, TARVO_VERSION, applicationIdentifier);
+    desktop::QtApplication application(argumentCount, arguments, build_options::version,
+                                       applicationIdentifier);
     desktop::SessionService session(QDBusConnection::sessionBus(),
                                     QString::fromLatin1(applicationIdentifier));
     if (session.claim() == desktop::SessionService::Claim::taken) return openRunningOne(session);
@@ -60,7 +62,7 @@ int main(int argumentCount, char** arguments) {
         return usageStatus;
     }
     if (std::holds_alternative<ShowVersion>(line)) {
-        fmt::print("tarvo {}\n", TARVO_VERSION);
+        fmt::print("tarvo {}\n", build_options::version);
     } else {
         fmt::print("{}", helpText());
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/menu_bar_module.h"
 #include "core/notification_center.h"
 #include "core/settings.h"
 #include "core/stats_model.h"

@@ -18,7 +18,6 @@ public:
     StoredRecords(const std::filesystem::path& folder, const Clock& clock);
 
     HistoryStore& history() { return history_; }
-    AlertLogStore& alertLog() { return alertLog_.get(); }
 
 private:
     AtomicFile historyFile_;

@@ -12,7 +12,6 @@ AlertManager::AlertManager(AlertServices services) : services_(std::move(service
 }
 
 void AlertManager::evaluate(const StatsSnapshot& snapshot) {
-    if (!services_.settings.notificationsEnabled()) return;
     evaluateCPU(snapshot.cpu);
     evaluateDisk(snapshot.diskFreeGB);
     evaluateBattery(snapshot.battery);

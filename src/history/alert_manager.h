@@ -39,8 +39,8 @@ public:
     /// Asks for the permission to notify; the answer does not matter.
     explicit AlertManager(AlertServices services);
 
-    /// All three conditions of one snapshot while notifications are switched on; else nothing, and what was
-    /// remembered stays.
+    /// All three conditions of one snapshot. To be called only while notifications are switched on; what is
+    /// remembered stays in between.
     void evaluate(const StatsSnapshot& snapshot);
 
     void evaluateCPU(double cpu);

@@ -7,13 +7,13 @@
 
 namespace tarvo::desktop {
 
-QtApplication::QtApplication(int& argumentCount, char** arguments, const char* version,
+QtApplication::QtApplication(int& argumentCount, char** arguments, std::string_view version,
                              const char* desktopFile)
     : application_(argumentCount, arguments) {
     // Qt has taken over the user's locale; numbers that go through the C library keep their point.
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(QStringLiteral("tarvo"));
-    QCoreApplication::setApplicationVersion(QLatin1String(version));
+    QCoreApplication::setApplicationVersion(QLatin1String(version.data(), static_cast<int>(version.size())));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tarvo"));
     QGuiApplication::setDesktopFileName(QLatin1String(desktopFile));
     QGuiApplication::setQuitOnLastWindowClosed(false);

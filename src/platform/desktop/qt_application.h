@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+#include <string_view>
+
 namespace tarvo::desktop {
 
 /// The QApplication behind the seam. Ordinary windows have taskbar entries by themselves and bars and
@@ -12,7 +14,7 @@ class QtApplication : public Application {
 public:
     /// `version` as it is shown to people, without a leading letter; `desktopFile` is the name of the
     /// program's desktop file without its suffix, by which desktops find its icon.
-    QtApplication(int& argumentCount, char** arguments, const char* version, const char* desktopFile);
+    QtApplication(int& argumentCount, char** arguments, std::string_view version, const char* desktopFile);
 
     void setActivationPolicy(ActivationPolicy policy) override { policy_ = policy; }
     void activateIgnoringOtherApps() override;

@@ -43,7 +43,7 @@ struct Machine::Parts {
           host(root), cpu(host), interfaces(root), nvml(root.isLive() ? std::make_shared<NVML>() : nullptr),
           disks(root), gpus(root, clock, nvidia()), volumes(root, clock, volumeSources()),
           wifiClient(options.wifi ? options.wifi : std::make_shared<LinuxWiFiClient>(root)),
-          wifi(*wifiClient), battery(root, dispatcher),
+          wifi(*wifiClient), battery(root, clock, dispatcher),
           backups(makeLinuxBackups(root, processEnvironment, clock, liveTools())), processes(root, clock) {
         registry.provide("IOBlockStorageDriver", [this] { return disks.services(); });
         registry.provide("IOAccelerator", [this] { return gpus.services(); });

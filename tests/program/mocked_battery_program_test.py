@@ -16,7 +16,7 @@ import threading
 import unittest
 
 PROGRAM = ""
-TIME_LIMIT = 120  # seconds; the battery is looked at every ten, and shown with the look after
+TIME_LIMIT = 120  # seconds; the battery is looked at every ten
 END_LIMIT = 10  # seconds for the program to see that nobody reads on
 
 MAINS = "P: /devices/AC\nE: SUBSYSTEM=power_supply\nA: type=Mains\\n\nA: online=1\\n\n"

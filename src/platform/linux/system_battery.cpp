@@ -9,10 +9,11 @@ namespace tarvo::linux_platform {
 
 /// Shared with the background readings, which outlive the battery by as long as the firmware takes.
 struct SystemBattery::State {
-    explicit State(Root theRoot) : root(std::move(theRoot)) {}
+    State(Root theRoot, const Clock& theClock) : root(std::move(theRoot)), clock(theClock) {}
 
     /// One thread at a time: `isReading` sees to that.
     void read() {
+        const auto began = clock.steadyNow();
         const auto supplies = readPowerSupplies(root);
         auto described = describer.describe(supplies);
         // Firmware is busy for a moment after the machine woke; what was known holds once more.
@@ -20,30 +21,35 @@ struct SystemBattery::State {
         keptOnce = keeps;
         const std::lock_guard lock(mutex);
         if (!keeps) latest = std::move(described);
+        isSlow = clock.steadyNow() - began > quick;
         isReading = false;
     }
 
     const Root root;
+    const Clock& clock;
     BatteryDescriber describer;
     bool keptOnce = false;
 
     std::mutex mutex; ///< guards what follows
     std::optional<BatteryDescription> latest;
-    bool isReading = false;
+    bool isSlow = false;
+    bool isReading = false; ///< in the background
 };
 
-SystemBattery::SystemBattery(Root root, Dispatcher& dispatcher)
-    : dispatcher_(dispatcher), state_(std::make_shared<State>(std::move(root))) {}
+SystemBattery::SystemBattery(Root root, const Clock& clock, Dispatcher& dispatcher)
+    : dispatcher_(dispatcher), state_(std::make_shared<State>(std::move(root), clock)) {}
 
 SystemBattery::~SystemBattery() = default;
 
 std::optional<PowerSourceList> SystemBattery::descriptions() {
-    const bool isFirst = !std::exchange(hasRead_, true);
-    if (isFirst) state_->read();
-
-    const std::lock_guard lock(state_->mutex);
-    if (!isFirst && !std::exchange(state_->isReading, true)) {
+    std::unique_lock lock(state_->mutex);
+    if (state_->isSlow && !std::exchange(state_->isReading, true)) {
         dispatcher_.global(QualityOfService::utility, [state = state_] { state->read(); });
+    }
+    if (!state_->isReading) {
+        lock.unlock();
+        state_->read();
+        lock.lock();
     }
     registryEntry_.reset();
     if (!state_->latest) return PowerSourceList{};

@@ -65,12 +65,7 @@ protected:
         ASSERT_TRUE(file << value << std::flush);
     }
     void remove(const std::string& device) { umockdev_testbed_remove_device(testbed.get(), device.c_str()); }
-    /// What is known once the reading that the first call asks for is done.
-    std::optional<BatteryInfo> read() {
-        readBatteryInfo(battery, registry);
-        dispatcher.runAll();
-        return readBatteryInfo(battery, registry);
-    }
+    std::optional<BatteryInfo> read() { return readBatteryInfo(battery, registry); }
 
     struct Unref {
         void operator()(UMockdevTestbed* held) const { g_object_unref(held); }
@@ -79,7 +74,7 @@ protected:
     std::string mains;
     ManualClock clock;
     ManualDispatcher dispatcher{clock};
-    SystemBattery battery{Root(), dispatcher};
+    SystemBattery battery{Root(), clock, dispatcher};
     LinuxIORegistry registry;
 };
 

@@ -11,6 +11,17 @@
 namespace tarvo::linux_platform {
 namespace {
 
+/// A clock on which every look takes some time, and so every reading.
+class PassingClock : public ManualClock {
+public:
+    SteadyTime steadyNow() const override { return ManualClock::steadyNow() + step * looks_++; }
+
+    std::chrono::milliseconds step{0};
+
+private:
+    mutable int looks_ = 0;
+};
+
 class SystemBatteryTest : public testing::Test {
 protected:
     void set(const char* attribute, std::string_view text) {
@@ -27,23 +38,27 @@ protected:
     }
 
     TemporaryFolder folder;
-    ManualClock clock;
+    PassingClock clock;
     ManualDispatcher dispatcher{clock};
-    SystemBattery battery{Root(folder.path().string()), dispatcher};
+    SystemBattery battery{Root(folder.path().string()), clock, dispatcher};
     ScriptedIORegistry registry;
 };
 
 using SystemBatteryReading = SystemBatteryTest;
 
-TEST_F(SystemBatteryReading, TheFirstOneIsThereAtOnce) {
+TEST_F(SystemBatteryReading, IsTakenForEachQuestionWhileItIsQuick) {
+    clock.step = SystemBattery::quick;
     insert("60\n");
     EXPECT_EQ(percentage(), 60);
+    insert("59\n");
+    EXPECT_EQ(percentage(), 59);
     EXPECT_EQ(dispatcher.queuedBackground(), 0U);
 }
 
-TEST_F(SystemBatteryReading, LaterOnesAreTakenInTheBackground) {
+TEST_F(SystemBatteryReading, IsTakenInTheBackgroundAfterOneThatTookLong) {
+    clock.step = SystemBattery::quick + std::chrono::milliseconds(1);
     insert("60\n");
-    percentage();
+    EXPECT_EQ(percentage(), 60);
     insert("59\n");
     EXPECT_EQ(percentage(), 60) << "answered from what is known";
     EXPECT_EQ(dispatcher.queuedBackground(), 1U);
@@ -51,6 +66,19 @@ TEST_F(SystemBatteryReading, LaterOnesAreTakenInTheBackground) {
     EXPECT_EQ(dispatcher.queuedBackground(), 1U) << "one at a time";
     dispatcher.runAll();
     EXPECT_EQ(percentage(), 59);
+    EXPECT_EQ(dispatcher.queuedBackground(), 1U) << "the one before took long too";
+}
+
+TEST_F(SystemBatteryReading, IsWaitedForAgainAfterAQuickOneInTheBackground) {
+    clock.step = SystemBattery::quick * 2;
+    insert("60\n");
+    percentage();
+    percentage();
+    clock.step = {};
+    dispatcher.runAll();
+    insert("59\n");
+    EXPECT_EQ(percentage(), 59);
+    EXPECT_EQ(dispatcher.queuedBackground(), 0U);
 }
 
 TEST_F(SystemBatteryReading, WithoutABatteryIsAbsent) {
@@ -62,11 +90,8 @@ TEST_F(SystemBatteryReading, WithoutABatteryIsAbsent) {
 TEST_F(SystemBatteryReading, ABatteryThatIsInsertedAndRemovedIsSeen) {
     EXPECT_EQ(percentage(), std::nullopt);
     insert("60\n");
-    percentage();
-    dispatcher.runAll();
     EXPECT_EQ(percentage(), 60);
     folder.remove("sys/class/power_supply/BAT0");
-    dispatcher.runAll();
     EXPECT_EQ(percentage(), std::nullopt);
 }
 
@@ -74,13 +99,9 @@ TEST_F(SystemBatteryReading, BusyFirmwareKeepsWhatWasKnownOnce) {
     insert("60\n");
     percentage();
     folder.remove("sys/class/power_supply/BAT0/capacity");
-    percentage();
-    dispatcher.runAll();
     EXPECT_EQ(percentage(), 60);
-    dispatcher.runAll();
     EXPECT_EQ(percentage(), std::nullopt);
     insert("58\n");
-    dispatcher.runAll();
     EXPECT_EQ(percentage(), 58);
 }
 
@@ -93,8 +114,9 @@ TEST_F(SystemBatteryReading, TellsItsWearAsRegistryEntry) {
 
 TEST_F(SystemBatteryReading, MayOutliveTheBatteryThatAskedForIt) {
     insert("60\n");
+    clock.step = SystemBattery::quick * 2;
     {
-        SystemBattery shortLived(Root(folder.path().string()), dispatcher);
+        SystemBattery shortLived(Root(folder.path().string()), clock, dispatcher);
         shortLived.descriptions();
         shortLived.descriptions();
     }
@@ -114,7 +136,7 @@ BatteryInfo info(std::int64_t percentage, bool charging, bool pluggedIn) {
 class MachineBattery : public testing::Test {
 protected:
     std::optional<BatteryInfo> of(const char* machine) {
-        SystemBattery battery(Root(std::string(TARVO_TEST_DATA "/") + machine), dispatcher);
+        SystemBattery battery(Root(std::string(TARVO_TEST_DATA "/") + machine), clock, dispatcher);
         LinuxIORegistry registry;
         registry.provide("AppleSmartBattery", [&battery] { return battery.registryEntries(); });
         return readBatteryInfo(battery, registry);

@@ -1,29 +1,14 @@
 #include "platform/desktop/appearance/dark_palette.h"
 
 #include "platform/desktop/system_palette.h"
+#include "support/contrast.h"
 
 #include <QApplication>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 namespace tarvo::desktop {
 namespace {
-
-double linear(double share) {
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color) {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-    const auto [low, high] = std::minmax(luminance(one), luminance(other));
-    return (high + 0.05) / (low + 0.05);
-}
 
 class FollowColorScheme : public testing::Test {
 protected:

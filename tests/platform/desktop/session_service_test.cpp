@@ -109,7 +109,7 @@ TEST_F(SessionServiceTest, CallsTheInstanceThatHasTheName) {
     // Waits for the answer, as a second instance does in a process of its own.
     std::thread second([&, connection = bus.connect()] {
         reached = SessionService(connection, "io.example.Program").callOwner("Open");
-        QMetaObject::invokeMethod(qApp, [&] { ended = true; });
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [&] { ended = true; });
     });
     EXPECT_TRUE(waitUntil([&] { return ended; }));
     second.join();

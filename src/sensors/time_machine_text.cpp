@@ -1,6 +1,7 @@
 #include "sensors/time_machine_text.h"
 
 #include <charconv>
+#include <cmath>
 
 namespace tarvo {
 namespace {
@@ -12,11 +13,13 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+/// Absent too for what is written as infinite or as no number.
 std::optional<double> number(std::string_view text) {
     double value = 0;
     const auto* const end = text.data() + text.size();
     const auto [stopped, failure] = std::from_chars(text.data(), end, value);
-    return failure == std::errc() && stopped == end ? std::optional(value) : std::nullopt;
+    return failure == std::errc() && stopped == end && std::isfinite(value) ? std::optional(value)
+                                                                            : std::nullopt;
 }
 
 } // namespace

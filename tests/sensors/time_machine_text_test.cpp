@@ -26,7 +26,8 @@ TEST(TimeMachineText, AnythingElseIsNoProgress) {
     for (const char* text :
          {"", "Percent = 0.5", "Percent=\"0.5\"", "Percent = \"0.5", "Percent = \"\"", "Percent = \"-1\"",
           "Percent = \"-0.001\"", "Percent = \"0,5\"", "Percent = \"0.5 \"", "Percent = \" 0.5\"",
-          "Percent = \"0.5x\"", "Percent = \"nan\"", "Percent = \"x\"; Percent = \"0.5\""}) {
+          "Percent = \"0.5x\"", "Percent = \"nan\"", "Percent = \"inf\"",
+          "Percent = \"x\"; Percent = \"0.5\""}) {
         EXPECT_EQ(backupPercent(text), std::nullopt) << text;
     }
 }

@@ -30,6 +30,12 @@ public:
     /// How many characters above the blank stand at the beginning.
     std::ptrdiff_t aboveBlank() const { return bytesBefore((bytes_ - everyByte(' ' + 1)) & ~bytes_); }
 
+    /// The highest bit of each byte that holds a character above the blank.
+    std::uint64_t fieldMarks() const { return marksAbove(' '); }
+
+    /// Whether a character below the blank is among them: a line feed, a tab or another control character.
+    bool holdsControl() const { return marksAbove(' ' - 1) != everyByte(0x80); }
+
     /// Value of the first `count` characters, 1 to 8 digits: neighbours are joined to pairs, then fours, then
     /// all.
     std::uint64_t value(std::ptrdiff_t count) const {
@@ -46,6 +52,12 @@ private:
     static constexpr std::uint64_t secondBytes = 0x0000'00FF'0000'00FF;
 
     static constexpr std::uint64_t everyByte(std::uint64_t byte) { return byte * 0x0101'0101'0101'0101; }
+
+    // Without a carry from one byte to the next.
+    std::uint64_t marksAbove(std::uint64_t limit) const {
+        const auto low = (bytes_ & everyByte(0x7F)) + everyByte(0x7F - limit);
+        return (low | bytes_) & everyByte(0x80);
+    }
 
     // Bytes before the first whose highest bit is set.
     static std::ptrdiff_t bytesBefore(std::uint64_t marks) {

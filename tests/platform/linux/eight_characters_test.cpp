@@ -42,6 +42,10 @@ TEST(EightCharacters, AgreeWithLookingAtOneAfterTheOther) {
         const EightCharacters eight(text.c_str());
         ASSERT_EQ(eight.digits(), count(isDigit));
         ASSERT_EQ(eight.aboveBlank(), count(isAbove));
+        const auto isControl = [](char character) { return static_cast<unsigned char>(character) < ' '; };
+        ASSERT_EQ(eight.holdsControl(), std::any_of(text.begin(), text.end(), isControl));
+        for (std::size_t index = 0; index < text.size(); ++index)
+            ASSERT_EQ((eight.fieldMarks() >> (8 * index)) & 0xFF, isAbove(text[index]) ? 0x80U : 0U);
         const auto digits = eight.digits();
         if (digits > 0) {
             const auto number = text.substr(0, static_cast<std::size_t>(digits));

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+
 namespace tarvo::linux_platform {
 
 TEST(TextCursor, WalksFieldsAndLines) {
@@ -44,6 +47,29 @@ TEST(TextCursor, SkipsFieldsOfOneLine) {
     EXPECT_TRUE(cursor.skipFields(3));
     EXPECT_EQ(cursor.field(), "d");
     EXPECT_FALSE(cursor.skipFields(1));
+}
+
+TEST(TextCursor, SkipsLongLinesAsItWalksThem) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 50'000; ++round) {
+        std::string text(random() % 60, ' ');
+        for (auto& character : text) {
+            const auto choice = random() % 40;
+            if (choice > 1) character = choice % 2 == 0 ? ' ' : 'x';
+            if (choice == 3) character = '\xC3';
+            if (choice == 5) character = '\x7F';
+            if (choice == 1) character = random() % 2 == 0 ? '\n' : '\t';
+        }
+        const int count = static_cast<int>(random() % 8);
+        TextCursor quick(text);
+        TextCursor slow(text);
+        int walked = 0;
+        while (walked < count && !slow.field().empty())
+            ++walked;
+        ASSERT_EQ(quick.skipFields(count), walked == count) << text << '|' << count;
+        if (walked < count) continue;
+        ASSERT_EQ(quick.rest(), slow.rest()) << text << '|' << count;
+    }
 }
 
 } // namespace tarvo::linux_platform

@@ -35,24 +35,17 @@ struct TableViewTest : ::testing::Test {
     std::string pidAt(int row) {
         return model.text(model.record(row), ProcessTableModel::pidColumn).toStdString();
     }
-    void clickHeader(int column) {
+    void clickHeader(int column, QEvent::Type press = QEvent::MouseButtonPress) {
         const QPoint place(view.header().sectionViewportPosition(column) + 10, 10);
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        for (const auto type : {press, QEvent::MouseButtonRelease}) {
             QMouseEvent event(type, place, view.header().viewport()->mapToGlobal(place), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
+                              type == press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
             QApplication::sendEvent(view.header().viewport(), &event);
         }
     }
     void doubleClickHeader(int column) {
         clickHeader(column);
-        const QPoint place(view.header().sectionViewportPosition(column) + 10, 10);
-        for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, place, view.header().viewport()->mapToGlobal(place), Qt::LeftButton,
-                              type == QEvent::MouseButtonDblClick ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
-            QApplication::sendEvent(view.header().viewport(), &event);
-        }
+        clickHeader(column, QEvent::MouseButtonDblClick);
     }
     void click(int row, int column) {
         const QPoint place = view.visualRect(model.index(row, column)).center();

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@interface NSData : NSObject <NSCopying>
+@property(readonly) NSUInteger length;
+@property(readonly) const void* bytes;
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""Type-checks the Objective-C++ sources against the declarations under tests/macos/frameworks, without a Mac.
+
+Usage: type_check.py CLANG [FILE...]        without files: every .mm under src/ and apps/
+Prints one line a file, OK or FAIL with what clang says, and exits 1 when one fails. Every file is checked as on both
+kinds of Mac: BOOL is a boolean on the one and a character on the other.
+"""
+import concurrent.futures
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+FRAMEWORKS = ROOT / "tests/macos/frameworks"
+
+LANGUAGE = ["-x", "objective-c++", "-std=c++20", "-fobjc-arc", "-fobjc-runtime=macosx-13", "-fblocks", "-fsyntax-only"]
+# Those of cmake/TarvoCompiler.cmake, and what clang knows of the language beyond them.
+WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-conversion",
+            "-Wold-style-cast", "-Wnon-virtual-dtor", "-Woverloaded-virtual", "-Wdouble-promotion", "-Wformat=2",
+            "-Wimplicit-fallthrough", "-Wundef",
+            "-Wundeclared-selector", "-Wselector", "-Wstrict-selector-match", "-Wmethod-signatures",
+            "-Wsuper-class-method-mismatch", "-Wobjc-missing-property-synthesis", "-Wdirect-ivar-access",
+            "-Warc-repeated-use-of-weak", "-Warc-retain-cycles", "-Wexplicit-ownership-type",
+            "-Wnullable-to-nonnull-conversion", "-Wno-nullability-completeness"]
+MACS = {"Apple silicon": [], "Intel": ["-DTARVO_BOOL_IS_CHARACTER"]}
+
+
+def command(clang, mac, source, first_includes=()):
+    includes = [f"-I{folder}" for folder in (*first_includes, ROOT / "src", ROOT / "apps", FRAMEWORKS)]
+    return [clang, *LANGUAGE, *WARNINGS, *MACS[mac], *includes, str(source)]
+
+
+def complaints(clang, source):
+    """What clang says against the source, by kind of Mac; empty when nothing."""
+    found = {}
+    for mac in MACS:
+        run = subprocess.run(command(clang, mac, source), capture_output=True, text=True)
+        if run.returncode != 0:
+            found[mac] = run.stderr
+    return found
+
+
+def sources():
+    return sorted(path for folder in ("src", "apps") for path in (ROOT / folder).rglob("*.mm"))
+
+
+def main():
+    clang, files = sys.argv[1], [pathlib.Path(name).resolve() for name in sys.argv[2:]] or sources()
+    if not shutil.which(clang):
+        sys.exit(f"{clang} is needed for this check (scripts/install-packages.sh test) and is not there")
+    failed = not files
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for file, found in zip(files, pool.map(lambda file: complaints(clang, file), files)):
+            name = file.relative_to(ROOT) if file.is_relative_to(ROOT) else file
+            print(f"{'FAIL' if found else 'OK':5} {name}", flush=True)
+            for mac, text in found.items():
+                print(f"as on a Mac of the kind {mac}:\n{text}", flush=True)
+            failed = failed or bool(found)
+    print(f"{len(files)} files, each as on {len(MACS)} kinds of Mac")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

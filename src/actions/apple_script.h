@@ -1,17 +1,11 @@
 #pragma once
 
+#include "platform/apple_scripts.h"
+
 #include <optional>
 #include <string>
 
 namespace tarvo {
-
-/// What running a script source came to, before any wording.
-struct ScriptOutcome {
-    bool compiled = true;
-    bool failed = false;
-    std::optional<std::string> message; ///< the error's own message, where it has one
-    std::string errorDescription;       ///< printed form of the whole error
-};
 
 /// The text that a failed script is reported with; absent on success. The two texts of its own are Czech in
 /// both languages.

@@ -17,7 +17,8 @@ enum class QuickAction {
     newFileManagerWindow,
 };
 
-/// What a desktop can be asked to do by one click. Main thread only; nothing here waits.
+/// What a desktop can be asked to do by one click. Main thread only; nothing here waits, except for scripts
+/// where they run inside the program.
 class DesktopActions {
 public:
     /// Absent on success. Runs once, on the main thread.

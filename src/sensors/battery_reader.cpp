@@ -1,6 +1,7 @@
 #include "sensors/battery_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tarvo {
@@ -16,10 +17,15 @@ std::optional<std::int64_t> minutes(const PropertyDictionary& description, std::
     return value && *value >= 1 ? value : std::nullopt;
 }
 
+constexpr auto cycles = "CycleCount";
+constexpr auto designCapacity = "DesignCapacity";
+constexpr auto presentCapacity = "AppleRawMaxCapacity";
+constexpr std::array<std::string_view, 3> wearProperties{cycles, designCapacity, presentCapacity};
+
 void addWear(BatteryInfo& info, const PropertyDictionary& entry) {
-    info.cycleCount = entry.integer("CycleCount");
-    const auto design = entry.integer("DesignCapacity");
-    const auto present = entry.integer("AppleRawMaxCapacity");
+    info.cycleCount = entry.integer(cycles);
+    const auto design = entry.integer(designCapacity);
+    const auto present = entry.integer(presentCapacity);
     if (design && present && *design >= 1) {
         info.healthPercent = std::min<std::int64_t>(percentOf(*present, *design), 100);
     }
@@ -43,8 +49,7 @@ std::optional<BatteryInfo> readBatteryInfo(PowerSources& powerSources, IORegistr
     info.timeToEmptyMinutes = minutes(description, "Time to Empty");
     info.timeToFullMinutes = minutes(description, "Time to Full Charge");
 
-    const auto entries = registry.services("AppleSmartBattery");
-    if (entries && !entries->empty()) addWear(info, entries->front());
+    if (const auto entry = registry.properties("AppleSmartBattery", wearProperties)) addWear(info, *entry);
     return info;
 }
 

@@ -147,10 +147,12 @@ TEST_F(BatteryReader, HealthIsCappedAndNeedsBothCapacities) {
     EXPECT_EQ(read()->healthPercent, std::nullopt);
 }
 
-TEST_F(BatteryReader, ReadsTheRegistryOnce) {
+TEST_F(BatteryReader, ReadsTheRegistryOnceAndNamesThePropertiesOfWear) {
     set("Current Capacity", integer(40));
     read();
     EXPECT_EQ(registry.lookUps, std::vector<std::string>{"AppleSmartBattery"});
+    EXPECT_EQ(registry.named,
+              (std::vector<std::string>{"CycleCount", "DesignCapacity", "AppleRawMaxCapacity"}));
 }
 
 } // namespace

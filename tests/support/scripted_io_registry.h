@@ -18,9 +18,17 @@ public:
         return position == classes.end() ? std::vector<PropertyDictionary>{} : position->second;
     }
 
+    std::optional<PropertyDictionary> properties(std::string_view className,
+                                                 std::span<const std::string_view> names) override {
+        named.assign(names.begin(), names.end());
+        const auto found = services(className);
+        return found && !found->empty() ? std::optional(found->front()) : std::nullopt;
+    }
+
     std::map<std::string, std::vector<PropertyDictionary>, std::less<>> classes;
     bool fails = false;
     std::vector<std::string> lookUps;
+    std::vector<std::string> named; ///< the properties that were asked for last
 };
 
 } // namespace tarvo

@@ -25,6 +25,12 @@ public:
         return source->second();
     }
 
+    std::optional<PropertyDictionary> properties(std::string_view className,
+                                                 std::span<const std::string_view>) override {
+        auto found = services(className);
+        return found && !found->empty() ? std::optional(std::move(found->front())) : std::nullopt;
+    }
+
 private:
     std::map<std::string, Services, std::less<>> sources_;
 };

@@ -135,7 +135,7 @@ void AppDelegate::popoverWillShow() {
 }
 
 void AppDelegate::openDetailWindow() {
-    detailWindow_.show();
+    DetailWindowController::shared().show();
 }
 
 void AppDelegate::quit() {

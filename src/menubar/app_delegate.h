@@ -2,6 +2,7 @@
 
 #include "core/notification_center.h"
 #include "core/settings.h"
+#include "core/shared_instance.h"
 #include "core/stats_model.h"
 #include "menubar/detail_window_controller.h"
 #include "menubar/hot_key_manager.h"
@@ -87,6 +88,7 @@ private:
     AppServices services_;
     StatusItems items_;
     DetailWindowController detailWindow_;
+    SharedInstance<DetailWindowController> sharedDetailWindow_{detailWindow_};
     std::optional<HotKeyManager> hotKeyManager_;
     std::shared_ptr<MainPopover> popover_;       ///< made at launch
     std::unique_ptr<HoverPreview> hoverPreview_; ///< made at launch

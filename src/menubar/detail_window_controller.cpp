@@ -1,5 +1,7 @@
 #include "menubar/detail_window_controller.h"
 
+#include "core/shared_instance.h"
+
 #include <utility>
 
 namespace tarvo {
@@ -13,6 +15,10 @@ const WindowOptions detailWindow{
 
 DetailWindowController::DetailWindowController(Application& application, WindowFactory makeWindow)
     : application_(application), makeWindow_(std::move(makeWindow)) {}
+
+DetailWindowController& DetailWindowController::shared() {
+    return SharedInstance<DetailWindowController>::get();
+}
 
 void DetailWindowController::show() {
     if (!window_) {

@@ -13,6 +13,11 @@ class DetailWindowController {
 public:
     /// Without a factory nothing is ever shown. `application` outlives the controller.
     DetailWindowController(Application& application, WindowFactory makeWindow);
+    DetailWindowController(const DetailWindowController&) = delete;
+    DetailWindowController& operator=(const DetailWindowController&) = delete;
+
+    /// The instance that the whole process uses; see SharedInstance. It is the application delegate's.
+    static DetailWindowController& shared();
 
     /// Opens the window, or brings the open one to the front.
     void show();

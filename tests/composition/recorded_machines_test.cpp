@@ -109,8 +109,8 @@ TEST(RecordedMachine, VirtualMachineWithLittleToSee) {
     ASSERT_TRUE(machine.load);
     EXPECT_EQ(machine.load->one, 0.08);
     EXPECT_EQ(machine.load->fifteen, 0.01);
-    EXPECT_EQ(machine.network, (NetworkTotals{150'560'553, 349'341}));
-    EXPECT_EQ(machine.disks, sectors(4'968'506, 14'407'704));
+    EXPECT_EQ(machine.network, (NetworkTotals{150'563'625, 349'941}));
+    EXPECT_EQ(machine.disks, sectors(5'001'274, 14'408'728));
     EXPECT_EQ(machine.gpu, std::nullopt);
     EXPECT_EQ(machine.readers.localIPAddress(), std::nullopt);
     EXPECT_EQ(machine.readers.currentSSID(), std::nullopt);
@@ -130,9 +130,9 @@ TEST(RecordedMachine, LaptopWithTwoKindsOfCores) {
     EXPECT_NEAR(kilobytes(machine.memory.swapTotalGB), 8'388'604, 0.001);
     EXPECT_EQ(machine.load->five, 0.94);
     // Wi-Fi and the unplugged Ethernet; not the container bridge, its ports or the tunnel.
-    EXPECT_EQ(machine.network, (NetworkTotals{8'123'456'789, 512'345'678}));
+    EXPECT_EQ(machine.network, (NetworkTotals{8'128'699'669, 512'529'998}));
     // The built-in disk and the stick on USB; not the encrypted layer above it.
-    EXPECT_EQ(machine.disks, sectors(30'005'000, 41'000'200));
+    EXPECT_EQ(machine.disks, sectors(30'025'480, 41'004'296));
     // The GT that slept less was awake for half a second of two.
     EXPECT_DOUBLE_EQ(machine.gpu.value(), 25);
 }
@@ -149,10 +149,10 @@ TEST(RecordedMachine, DesktopWithTwoGPUsAndSeveralDisks) {
     EXPECT_NEAR(kilobytes(machine.memory.memUsedGB), 17'780'000, 64);
     EXPECT_EQ(machine.load->one, 8.12);
     // The bridge, the virtual machine's port and the VPN carry the same bytes as the card.
-    EXPECT_EQ(machine.network, (NetworkTotals{91'234'567'890, 7'654'321'098}));
+    EXPECT_EQ(machine.network, (NetworkTotals{91'237'567'890, 7'654'561'098}));
     // The mirror and the logical volume above it are the two SATA disks; the second path to the NVMe disk is
     // hidden.
-    EXPECT_EQ(machine.disks, sectors(110'000'000, 206'000'000));
+    EXPECT_EQ(machine.disks, sectors(110'002'048, 206'041'088));
     // The card that started the screen, though it is the second by number.
     EXPECT_EQ(machine.gpu, 64);
     EXPECT_THAT(volumesOf("desktop-amd-two-gpus"),
@@ -178,8 +178,8 @@ TEST(RecordedMachine, SingleBoardComputer) {
     EXPECT_DOUBLE_EQ(machine.cpu.total, 25);
     EXPECT_NEAR(kilobytes(machine.memory.memUsedGB), 1'056'176, 64);
     // Wi-Fi is off.
-    EXPECT_EQ(machine.network, (NetworkTotals{600'000'000, 80'000'000}));
-    EXPECT_EQ(machine.disks, sectors(1'500'000, 800'000));
+    EXPECT_EQ(machine.network, (NetworkTotals{600'040'960, 80'008'192}));
+    EXPECT_EQ(machine.disks, sectors(1'500'000, 800'128));
     EXPECT_DOUBLE_EQ(machine.gpu.value(), 35);
     EXPECT_THAT(volumesOf("raspberrypi5"), ElementsAre(volume("rootfs", "/")));
 }

@@ -77,6 +77,15 @@ TEST_F(Lifecycle, RunsWithoutAnythingOptional) {
     EXPECT_THAT(application.log, ElementsAre("accessory"));
 }
 
+TEST_F(Lifecycle, TheDetailWindowOfTheWholeProcessIsTheDelegates) {
+    launch();
+    DetailWindowController::shared().show();
+    EXPECT_EQ(application.windows.size(), 1u);
+    EXPECT_TRUE(model->detailVisible());
+    delegate->openDetailWindow();
+    EXPECT_EQ(application.windows.size(), 1u) << "the same, brought to the front";
+}
+
 TEST_F(Lifecycle, EvaluatesAlertsOnEachSnapshotWhileNotificationsAreEnabled) {
     std::vector<double> evaluated;
     auto given = services();

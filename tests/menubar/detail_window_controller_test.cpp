@@ -1,5 +1,6 @@
 #include "menubar/detail_window_controller.h"
 
+#include "core/shared_instance.h"
 #include "support/recording_application.h"
 
 #include <gmock/gmock.h>
@@ -56,6 +57,15 @@ TEST(DetailWindowController, TellsWhenTheWindowOpensAndCloses) {
     controller.show();
     application.closeWindow();
     EXPECT_THAT(heard, ElementsAre(true, false));
+}
+
+TEST(DetailWindowController, TheSharedInstanceIsTheInstalledOne) {
+    RecordingApplication application;
+    DetailWindowController controller(application, application.windowFactory());
+    const SharedInstance<DetailWindowController> door(controller);
+    EXPECT_EQ(&DetailWindowController::shared(), &controller);
+    DetailWindowController::shared().show();
+    EXPECT_TRUE(controller.isOpen());
 }
 
 TEST(DetailWindowController, ShowsNothingWithoutAWindow) {

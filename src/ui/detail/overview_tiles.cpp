@@ -74,8 +74,8 @@ public:
 
     void show(const StatsSnapshot& snapshot) override {
         const auto& battery = snapshot.battery;
-        level_->set({battery ? std::string(batterySymbol(*battery)) : "battery.100percent",
-                     battery ? batteryColor(*battery) : colors::gray, t({.cs = "Baterie", .en = "Battery"}),
+        level_->set({"battery.100percent", battery ? batteryColor(*battery) : colors::gray,
+                     t({.cs = "Baterie", .en = "Battery"}),
                      battery ? std::to_string(battery->percentage) + "%" : std::string(unavailable),
                      colors::primary});
         health_->set({"heart.fill", colors::pink, t({.cs = "Zdraví baterie", .en = "Battery health"}),

@@ -11,13 +11,6 @@
 namespace tarvo::ui {
 namespace {
 
-std::string dateText(WallTime date) {
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(date.time_since_epoch()).count();
-    return QLocale::system()
-        .toString(QDateTime::fromSecsSinceEpoch(seconds), QLocale::ShortFormat)
-        .toStdString();
-}
-
 class AlertsCard : public Card {
 public:
     AlertsCard(DetailContext& context, QWidget* parent)
@@ -34,7 +27,7 @@ public:
             const AlertLogEntry& entry = (*entries)[index];
             const AlertIcon icon = alertIcon(entry.title);
             rows_[index]->set(
-                {std::string(icon.symbol), icon.color, entry.title, entry.body, dateText(entry.date)});
+                {std::string(icon.symbol), icon.color, entry.title, entry.body, alertDateText(entry.date)});
         }
     }
 
@@ -45,6 +38,13 @@ private:
 };
 
 } // namespace
+
+std::string alertDateText(WallTime date) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(date.time_since_epoch()).count();
+    return QLocale::system()
+        .toString(QDateTime::fromSecsSinceEpoch(seconds), QLocale::ShortFormat)
+        .toStdString();
+}
 
 HistorySection::HistorySection(DetailContext& context, QWidget* parent)
     : CardSection(context, {"clock.arrow.circlepath", colors::gray, {.cs = "Historie", .en = "History"}},

@@ -4,6 +4,9 @@
 
 namespace tarvo::ui {
 
+/// Day and time as the system writes them, in its time zone.
+std::string alertDateText(WallTime date);
+
 /// The alerts of the last weeks, newest first.
 class HistorySection : public CardSection {
 public:

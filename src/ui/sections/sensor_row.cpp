@@ -10,10 +10,17 @@ constexpr double hottest = 100;
 constexpr int nameWidth = 220;
 constexpr int temperatureWidth = 56;
 
+// The number beside it is read out, in the unit that the user has chosen.
+class SilentBar : public TempBar {
+public:
+    using TempBar::TempBar;
+    QString accessibleText() const override { return {}; }
+};
+
 } // namespace
 
 SensorRow::SensorRow(QWidget* parent)
-    : QWidget(parent), name_(new TextLabel), bar_(new TempBar), temperature_(new TextLabel) {
+    : QWidget(parent), name_(new TextLabel), bar_(new SilentBar), temperature_(new TextLabel) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, metrics::hair, 0, metrics::hair);
     row->setSpacing(metrics::medium);

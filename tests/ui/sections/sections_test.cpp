@@ -244,6 +244,7 @@ TEST_F(SectionsTest, SensorsFollowTheUnitOfTemperature) {
     parts.store.set(keys::temperatureUnit, std::int64_t{1});
     QApplication::processEvents();
     EXPECT_THAT(shownTexts(*section), HasSubstr("147 °F"));
+    EXPECT_THAT(shownTexts(*section), Not(HasSubstr("°C")));
 }
 
 TEST_F(SectionsTest, HistoryShowsTheAlerts) {

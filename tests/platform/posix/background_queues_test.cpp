@@ -26,10 +26,15 @@ TEST(BackgroundQueues, ASerialQueueRunsItsTasksInOrder) {
 
 TEST(BackgroundQueues, ASerialQueueThatHangsHoldsUpNeitherAnotherNorTheGlobalOne) {
     BackgroundQueues queues;
+    std::promise<void> hangs;
     std::promise<void> release;
     const auto hanging = queues.makeSerialQueue();
     const auto other = queues.makeSerialQueue();
-    hanging->async([&] { release.get_future().wait(); });
+    hanging->async([&] {
+        hangs.set_value();
+        release.get_future().wait();
+    });
+    hangs.get_future().wait(); // a task that has not begun would be dropped at the end
     std::promise<void> otherRan;
     std::promise<void> globalRan;
     other->async([&] { otherRan.set_value(); });

@@ -16,8 +16,8 @@ namespace {
 ui::ApplicationIconSource iconSource(ProcessIcons* icons) {
     if (!icons) return {};
     return [icons](std::int32_t pid) -> std::optional<QIcon> {
-        const auto name = icons->iconName(pid);
-        return name ? desktop::themeIcon(*name) : std::nullopt;
+        const auto icon = icons->icon(pid);
+        return icon ? desktop::applicationIcon(*icon) : std::nullopt;
     };
 }
 

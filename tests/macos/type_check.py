@@ -21,7 +21,7 @@ WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversi
             "-Wold-style-cast", "-Wnon-virtual-dtor", "-Woverloaded-virtual", "-Wdouble-promotion", "-Wformat=2",
             "-Wimplicit-fallthrough", "-Wundef",
             "-Wundeclared-selector", "-Wselector", "-Wstrict-selector-match", "-Wmethod-signatures",
-            "-Wsuper-class-method-mismatch", "-Wobjc-missing-property-synthesis", "-Wdirect-ivar-access",
+            "-Wsuper-class-method-mismatch", "-Wdirect-ivar-access",
             "-Warc-repeated-use-of-weak", "-Warc-retain-cycles", "-Wexplicit-ownership-type",
             "-Wnullable-to-nonnull-conversion", "-Wno-nullability-completeness"]
 MACS = {"Apple silicon": [], "Intel": ["-DTARVO_BOOL_IS_CHARACTER"]}

@@ -1,6 +1,7 @@
 #include "platform/desktop/theme_icon.h"
 
 #include <QFileInfo>
+#include <QPixmap>
 
 namespace tarvo::desktop {
 namespace {
@@ -11,6 +12,13 @@ QString withoutSuffix(const QString& name) {
         if (name.endsWith(suffix)) return name.chopped(suffix.size());
     }
     return name;
+}
+
+std::optional<QIcon> pictureIcon(const IconPicture& picture) {
+    QPixmap pixmap;
+    const auto* const bytes = reinterpret_cast<const uchar*>(picture.png.data());
+    if (!pixmap.loadFromData(bytes, static_cast<uint>(picture.png.size()), "PNG")) return std::nullopt;
+    return QIcon(pixmap);
 }
 
 } // namespace
@@ -25,6 +33,11 @@ std::optional<QIcon> themeIcon(const std::string& nameOrPath) {
     }
     if (icon.isNull() || icon.availableSizes().isEmpty()) return std::nullopt;
     return icon;
+}
+
+std::optional<QIcon> applicationIcon(const ProcessIcon& icon) {
+    if (const auto* const picture = std::get_if<IconPicture>(&icon)) return pictureIcon(*picture);
+    return themeIcon(std::get<NamedIcon>(icon).nameOrPath);
 }
 
 } // namespace tarvo::desktop

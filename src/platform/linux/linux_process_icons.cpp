@@ -25,18 +25,18 @@ LinuxProcessIcons::LinuxProcessIcons(Root root, std::vector<std::string> folders
                                      Dispatcher& dispatcher)
     : root_(std::move(root)), folders_(std::move(folders)), clock_(clock), dispatcher_(dispatcher) {}
 
-std::optional<std::string> LinuxProcessIcons::iconName(std::int32_t pid) {
+std::optional<ProcessIcon> LinuxProcessIcons::icon(std::int32_t pid) {
     readWhenDue();
     if (!state_->index) return std::nullopt;
     const std::string folder = root_.path(fmt::format("/proc/{}", pid));
     // The program first: a unit also holds what the application starts.
     if (const auto link = linkText(folder + "/exe")) {
-        if (const auto* icon = state_->index->iconOfProgram(programName(*link))) return *icon;
+        if (const auto* icon = state_->index->iconOfProgram(programName(*link))) return NamedIcon{*icon};
     }
     const auto cgroup = readFile(folder + "/cgroup");
     if (!cgroup) return std::nullopt;
     for (const std::string& id : applicationIDs(*cgroup)) {
-        if (const auto* icon = state_->index->iconOfApplication(id)) return *icon;
+        if (const auto* icon = state_->index->iconOfApplication(id)) return NamedIcon{*icon};
     }
     return std::nullopt;
 }

@@ -23,7 +23,7 @@ public:
     /// Clock and dispatcher outlive this.
     LinuxProcessIcons(Root root, std::vector<std::string> folders, Clock& clock, Dispatcher& dispatcher);
 
-    std::optional<std::string> iconName(std::int32_t pid) override;
+    std::optional<ProcessIcon> icon(std::int32_t pid) override;
 
 private:
     struct State {

@@ -32,10 +32,14 @@ struct LinuxProcessIconsTest : ::testing::Test {
         write(process / "cgroup", cgroup);
         fs::create_symlink(program, process / "exe");
     }
+    std::optional<std::string> iconName(int pid) {
+        const auto icon = icons.icon(pid);
+        return icon ? std::optional(std::get<NamedIcon>(*icon).nameOrPath) : std::nullopt;
+    }
     std::optional<std::string> iconOnceRead(int pid) {
-        (void)icons.iconName(pid);
+        (void)iconName(pid);
         dispatcher.runAll();
-        return icons.iconName(pid);
+        return iconName(pid);
     }
 
     TemporaryFolder folder;
@@ -49,9 +53,9 @@ struct LinuxProcessIconsTest : ::testing::Test {
 } // namespace
 
 TEST_F(LinuxProcessIconsTest, KnowsNothingUntilTheDesktopFilesAreRead) {
-    EXPECT_FALSE(icons.iconName(41));
+    EXPECT_FALSE(iconName(41));
     dispatcher.runAll();
-    EXPECT_EQ(icons.iconName(41), "editor-icon");
+    EXPECT_EQ(iconName(41), "editor-icon");
 }
 
 TEST_F(LinuxProcessIconsTest, FindsTheApplicationByItsUnit) {

@@ -15,6 +15,7 @@
 #include <Foundation/NSDictionary.h>
 #include <Foundation/NSError.h>
 #include <Foundation/NSFileManager.h>
+#include <Foundation/NSGeometry.h>
 #include <Foundation/NSLocale.h>
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSNumber.h>

@@ -21,9 +21,10 @@ typedef double NSTimeInterval;
 #define NS_ENUM(type, name)                                                                                  \
     enum name : type name;                                                                                   \
     enum name : type
+// In C++ a set of options is a plain number, so that options can be joined without a cast.
 #define NS_OPTIONS(type, name)                                                                               \
-    enum __attribute__((flag_enum)) name : type name;                                                        \
-    enum __attribute__((flag_enum)) name : type
+    type name;                                                                                               \
+    enum __attribute__((flag_enum)) : type
 #define NS_DESIGNATED_INITIALIZER __attribute__((objc_designated_initializer))
 #define NS_UNAVAILABLE __attribute__((unavailable))
 #define NS_REQUIRES_SUPER __attribute__((objc_requires_super))

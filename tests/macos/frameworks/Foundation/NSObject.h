@@ -13,6 +13,9 @@ typedef struct _NSZone NSZone;
 - (BOOL)isKindOfClass:(Class)aClass;
 - (BOOL)respondsToSelector:(SEL)aSelector;
 - (BOOL)conformsToProtocol:(Protocol*)aProtocol;
+- (instancetype)retain OBJC_ARC_UNAVAILABLE;
+- (oneway void)release OBJC_ARC_UNAVAILABLE;
+- (instancetype)autorelease OBJC_ARC_UNAVAILABLE;
 @end
 
 @protocol NSCopying

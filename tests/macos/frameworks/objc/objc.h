@@ -26,6 +26,8 @@ typedef double NSTimeInterval;
     type name;                                                                                               \
     enum __attribute__((flag_enum)) : type
 #define NS_DESIGNATED_INITIALIZER __attribute__((objc_designated_initializer))
+#define OBJC_ARC_UNAVAILABLE                                                                                 \
+    __attribute__((unavailable("not available in automatic reference counting mode")))
 #define NS_UNAVAILABLE __attribute__((unavailable))
 #define NS_REQUIRES_SUPER __attribute__((objc_requires_super))
 #define NS_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")

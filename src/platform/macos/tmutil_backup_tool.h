@@ -11,9 +11,7 @@ public:
     /// The child processes outlive the tool.
     explicit TmutilBackupTool(ChildProcesses& children) : children_(children) {}
 
-    std::optional<std::string> output(const std::string& command) override {
-        return children_.output("/usr/bin/tmutil", {command});
-    }
+    std::optional<std::string> output(const std::string& command) override;
 
 private:
     ChildProcesses& children_;

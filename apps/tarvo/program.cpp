@@ -130,6 +130,7 @@ Program::Program(desktop::QtApplication& application, desktop::SessionService& s
       sessionEnd_([this] { delegate_->applicationWillTerminate(); }) {
     answer(session);
     colorScheme_.changed = [this] { desktop::followColorScheme(colorScheme_.prefersDark()); };
+    hotKeys_.onStateChanged = [this] { notificationCenter_.post(ui::hotKeyStateChanged); };
     statusBar_.bar().hostChanged = [this] { notificationCenter_.post(menuBarStyleChanged); };
 }
 

@@ -15,9 +15,13 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarvo::ui {
+
+/// Posted when what became of the hot key has changed.
+inline constexpr std::string_view hotKeyStateChanged = "hotKeyStateChanged";
 
 /// What the pages work with; references outlive them. A function may be left empty: what it would give or do
 /// is then left out.
@@ -51,7 +55,7 @@ struct PanelContext {
     std::function<void(bool)> setLaunchAtLogin = {};
     /// Asks the user for the permission to read the Wi-Fi network's name, where the system has one.
     std::function<void()> askForNetworkName = {};
-    /// What became of the hot key, in a sentence.
+    /// What became of the hot key, in a sentence; read again after hotKeyStateChanged.
     std::function<std::string()> hotKeyText = {};
 };
 

@@ -28,6 +28,7 @@ SettingsPage::SettingsPage(PanelContext& context, std::function<void()> onBack, 
     };
     subscriptions_.push_back(context_.settings.defaults().observe(ask));
     subscriptions_.push_back(context_.loc.publishedLanguage().observeWillChange(ask));
+    subscriptions_.push_back(context_.notifications.observe(hotKeyStateChanged, ask));
     refresh();
 }
 

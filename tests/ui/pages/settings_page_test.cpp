@@ -77,6 +77,22 @@ TEST_F(SettingsPageTest, HasATileForEveryModuleAndTellsTheStatusBar) {
     EXPECT_EQ(styleChanges, 6);
 }
 
+TEST_F(SettingsPageTest, SaysWhatBecameOfTheHotKeyAndAgainWhenThatChanges) {
+    std::string state = "The hot key is asked for.";
+    context.hotKeyText = [&] { return state; };
+    open();
+    EXPECT_THAT(texts(), HasSubstr("The hot key is asked for."));
+    state = "The hot key works.";
+    EXPECT_THAT(texts(), Not(HasSubstr("The hot key works."))) << "nobody has said so";
+    parts.notifications.post(hotKeyStateChanged);
+    EXPECT_THAT(texts(), HasSubstr("The hot key works."));
+    page->hide();
+    state = "The hot key is taken.";
+    parts.notifications.post(hotKeyStateChanged);
+    page->show();
+    EXPECT_THAT(texts(), HasSubstr("The hot key is taken."));
+}
+
 TEST_F(SettingsPageTest, TheCaptionFollowsTheLayout) {
     EXPECT_THAT(texts(), HasSubstr("Enabled items are combined into the menu bar text."));
     button("Modular Menu Bar").click();

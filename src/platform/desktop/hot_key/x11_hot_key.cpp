@@ -1,6 +1,7 @@
 #include "platform/desktop/hot_key/x11_hot_key.h"
 
 #include "platform/desktop/hot_key/lock_masks.h"
+#include "platform/desktop/logging.h"
 
 #include <cstdlib>
 #include <utility>
@@ -9,7 +10,6 @@ namespace tarvo::desktop {
 namespace {
 
 constexpr xcb_keysym_t numLockSymbol = 0xff7f; // XK_Num_Lock
-constexpr std::uint8_t sentBySomebody = 0x80;  // marks events that another client made up
 constexpr std::uint16_t everyModifier = 0xff;
 
 struct Free {
@@ -57,7 +57,7 @@ X11HotKey::X11HotKey(const KeyCombination& keys, HotKeyEvents events)
     for (; screen > 0 && roots.rem > 1; --screen)
         xcb_screen_next(&roots);
     root_ = roots.data->root;
-    state_ = grab();
+    state_ = grab(readKeys());
     notifier_ =
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { readEvents(); });
@@ -66,21 +66,21 @@ X11HotKey::X11HotKey(const KeyCombination& keys, HotKeyEvents events)
         notifier_.get(), [this] { readEvents(); }, Qt::QueuedConnection);
 }
 
-HotKeyState X11HotKey::grab() {
+std::optional<X11HotKey::Keys> X11HotKey::readKeys() const {
     const KeySymbols symbols(xcb_key_symbols_alloc(connection_.get()), &xcb_key_symbols_free);
-    if (!symbols) return HotKeyState::unavailable;
-    numLock_ = numLockMask(connection_.get(), symbols.get());
-    auto codes = codesOf(symbols.get(), keys_.letter); // Latin letters are their own symbols
-    if (codes.empty()) codes.push_back(keys_.usualKeyCode);
-    const HotKeyState state = grabOn(codes);
-    if (state != HotKeyState::active) ungrab();
-    return state;
+    if (!symbols) return std::nullopt;
+    // Latin letters are their own symbols.
+    Keys keys{codesOf(symbols.get(), keys_.letter), numLockMask(connection_.get(), symbols.get())};
+    if (keys.codes.empty()) keys.codes.push_back(keys_.usualKeyCode);
+    return keys;
 }
 
-HotKeyState X11HotKey::grabOn(const std::vector<std::uint8_t>& keyCodes) {
+HotKeyState X11HotKey::grab(const std::optional<Keys>& keys) {
+    if (!keys) return HotKeyState::unavailable;
+    qCDebug(hotKeyLog, "grabs the keys");
     std::vector<xcb_void_cookie_t> requests;
-    for (const std::uint8_t code : keyCodes) {
-        for (const std::uint16_t locks : lockMasks(numLock_)) {
+    for (const std::uint8_t code : keys->codes) {
+        for (const std::uint16_t locks : lockMasks(keys->numLock)) {
             const auto mask = static_cast<std::uint16_t>(modifiers_ | locks);
             requests.push_back(xcb_grab_key_checked(connection_.get(), 1, root_, mask, code,
                                                     XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
@@ -91,10 +91,13 @@ HotKeyState X11HotKey::grabOn(const std::vector<std::uint8_t>& keyCodes) {
         const Owned<xcb_generic_error_t> error(xcb_request_check(connection_.get(), request));
         if (error) state = error->error_code == XCB_ACCESS ? HotKeyState::taken : HotKeyState::unavailable;
     }
+    grabbed_ = keys;
+    if (state != HotKeyState::active) ungrab();
     return state;
 }
 
 void X11HotKey::ungrab() {
+    grabbed_.reset();
     xcb_ungrab_key(connection_.get(), XCB_GRAB_ANY, root_, XCB_MOD_MASK_ANY);
     xcb_flush(connection_.get());
 }
@@ -108,20 +111,35 @@ void X11HotKey::readEvents() {
 }
 
 void X11HotKey::handle(const xcb_generic_event_t& event) {
-    const auto type = event.response_type;
-    if (type == XCB_MAPPING_NOTIFY) {
-        ungrab();
-        setState(grab());
-        return;
+    switch (event.response_type) { // what somebody made up has a bit more
+    case XCB_MAPPING_NOTIFY:
+        keyboardChanged();
+        break;
+    case XCB_KEY_PRESS:
+    case XCB_KEY_RELEASE:
+        handleKey(reinterpret_cast<const xcb_key_press_event_t&>(event),
+                  event.response_type == XCB_KEY_PRESS);
+        break;
+    default:
+        break;
     }
-    if ((type & ~sentBySomebody) != type) return;
-    if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE) return;
-    const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
-    if (type == XCB_KEY_RELEASE) {
+}
+
+// Most changes of a keyboard leave these keys where they are. Giving them back only to take them again would
+// lose a press in between.
+void X11HotKey::keyboardChanged() {
+    const auto keys = readKeys();
+    if (keys && keys == grabbed_) return;
+    ungrab();
+    setState(grab(keys));
+}
+
+void X11HotKey::handleKey(const xcb_key_press_event_t& key, bool isPress) {
+    if (!isPress) {
         repeat_.released(key.detail, key.time);
         return;
     }
-    const unsigned locks = XCB_MOD_MASK_LOCK | numLock_;
+    const unsigned locks = XCB_MOD_MASK_LOCK | (grabbed_ ? grabbed_->numLock : 0U);
     const bool isOurs = (key.state & everyModifier & ~locks) == modifiers_;
     if (isOurs && repeat_.isNewPress(key.detail, key.time)) events_.pressed();
 }

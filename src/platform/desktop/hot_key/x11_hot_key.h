@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tarvo::desktop {
@@ -29,11 +30,20 @@ private:
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
 
-    HotKeyState grab();
-    HotKeyState grabOn(const std::vector<std::uint8_t>& keyCodes);
+    /// What stands for the combination on the keyboard as it is now.
+    struct Keys {
+        std::vector<std::uint8_t> codes;
+        std::uint16_t numLock = 0; ///< the modifier that Num Lock is on; 0 for none
+        bool operator==(const Keys&) const = default;
+    };
+
+    std::optional<Keys> readKeys() const;
+    HotKeyState grab(const std::optional<Keys>& keys);
     void ungrab();
     void readEvents();
     void handle(const xcb_generic_event_t& event);
+    void handleKey(const xcb_key_press_event_t& key, bool isPress);
+    void keyboardChanged();
     void setState(HotKeyState state);
 
     KeyCombination keys_;
@@ -42,7 +52,7 @@ private:
     std::unique_ptr<QSocketNotifier> notifier_;
     xcb_window_t root_ = XCB_NONE;
     std::uint16_t modifiers_ = 0;
-    std::uint16_t numLock_ = 0;
+    std::optional<Keys> grabbed_; ///< absent while nothing is
     KeyRepeat repeat_;
     HotKeyState state_ = HotKeyState::unavailable;
 };

@@ -1,8 +1,8 @@
 #include "platform/desktop/hot_key/portal_hot_key.h"
 
 #include "../services/private_bus.h"
-#include "scripted_portal.h"
 #include "support/qt_wait.h"
+#include "support/scripted_portal.h"
 
 #include <gmock/gmock.h>
 

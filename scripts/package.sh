@@ -30,6 +30,18 @@ manual_pages() {
     [ -z "$(man --warnings -E UTF-8 -l -Tutf8 "$page" 2>&1 >/dev/null)" ] || return 1
   done
 }
+# Plug-ins that the programs load while they run: no program is linked with them, so that only we know of them.
+loaded=(platforms/libqxcb.so imageformats/libqsvg.so tls/libqopensslbackend.so)
+brings_what_it_loads() {
+  local depends plugin owner missing=0
+  depends=$(dpkg-deb -f build/package/*.deb Depends)
+  for plugin in "${loaded[@]}"; do
+    owner=$(dpkg -S "*/qt6/plugins/$plugin") || return 1
+    owner=${owner%%:*}
+    [[ ", $depends," =~ ", $owner"[,\ ] ]] || { echo "$plugin of $owner is loaded, but Depends is: $depends"; missing=1; }
+  done
+  return "$missing"
+}
 
 rm -rf build/package/first build/package/second build/package/*.deb
 make_package first
@@ -37,6 +49,7 @@ make_package second
 cp build/package/first/*.deb build/package/
 
 check "the same bytes again" cmp same_bytes
+check "dependencies on what is loaded" dpkg-deb brings_what_it_loads
 check "desktop entry" desktop-file-validate desktop-file-validate packaging/*.desktop
 check "AppStream metadata" appstreamcli appstreamcli validate --no-net build/package/packaging/*.metainfo.xml
 check "manual pages" man manual_pages

@@ -5,8 +5,12 @@ import signal
 import unittest
 
 from support.case import ProgramCase
+from support.program import Tarvo
 from support.session_manager import NEVER, SessionManager
 from support.waiting import wait_for
+
+
+WIDTH = 1280
 
 
 class SessionEnd(ProgramCase):
@@ -22,11 +26,13 @@ class SessionEnd(ProgramCase):
     def history_path(self):
         return os.path.join(self.session.environment["XDG_DATA_HOME"], "Tarvo", "history.json")
 
+    def stored(self):
+        with open(self.history_path(), encoding="utf-8") as file:
+            return json.load(file)
+
     def assert_history_is_whole(self):
         """The one sample is there, and what was written already was not written again."""
-        with open(self.history_path(), encoding="utf-8") as file:
-            samples = json.load(file)
-        self.assertEqual(len(samples), 1)
+        self.assertEqual(len(self.stored()), 1)
         now = os.stat(self.history_path())
         self.assertEqual((now.st_ino, now.st_mtime_ns), (self.written.st_ino, self.written.st_mtime_ns))
 
@@ -39,6 +45,23 @@ class SessionEnd(ProgramCase):
                 program = self.start_bar()
                 self.assertEqual(program.terminate(number), 0)
                 self.assert_history_is_whole()
+
+    def test_quitting_in_the_menu_keeps_what_is_stored_and_writes_nothing_more(self):
+        program = self.start_bar()
+        self.click(WIDTH - 40, 13, 3)
+        program.wait_for_window("POPUP_MENU")
+        self.press("q")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assert_history_is_whole()
+
+    def test_a_run_adds_its_sample_to_those_of_earlier_ones(self):
+        self.start_bar().terminate()
+        earlier = self.stored()
+        program = Tarvo(self.session, self.machine, TARVO_STATUS_BAR="bar")
+        self.addCleanup(self._check_log, program)
+        wait_for(lambda: program.alive() and len(self.stored()) == 2, "the second run's sample")
+        self.assertEqual(program.terminate(), 0)
+        self.assertEqual(self.stored()[:1], earlier)
 
     def open_popover(self, program):
         self.press("super+shift+m")

@@ -31,6 +31,7 @@ class SingleInstance(ProgramCase):
         second = self.start_again()
         self.assertEqual(second.wait(30), 0)
         first.wait_for_log(r"^tarvo\.session: called: OpenPopover$")
+        first.wait_for_log(r"^tarvo\.popover: shown")
         self.assertEqual(self.second_log(), "")
         self.assertEqual(first.terminate(), 0)
 

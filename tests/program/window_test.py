@@ -29,10 +29,13 @@ class DetailWindow(ProgramCase):
         return [window for window in self.program.windows("NORMAL") if hex(int(window)) not in self.taskbar_windows()]
 
     def open_by_menu(self):
+        self.choose_in_menu()
+        return self.wait_for_windows(1)[0]
+
+    def choose_in_menu(self):
         self.click(WIDTH - 40, 13, 3)
         wait_for(lambda: self.program.alive() and self.menus(), "the menu")
         wait_for(self.choose_first_row, "the end of the menu")
-        return self.wait_for_windows(1)[0]
 
     # A menu that has only just appeared may miss keys: they are pressed until it is gone.
     def choose_first_row(self):
@@ -50,7 +53,8 @@ class DetailWindow(ProgramCase):
     def wait_until_active(self, window):
         wait_for(lambda: window in self.session.run("xprop", "-root", "_NET_ACTIVE_WINDOW"), "an active window")
 
-    def test_has_a_title_and_its_size(self):
+    def test_has_a_title_and_its_size_and_is_in_the_taskbar_once_it_is_open(self):
+        self.assertEqual(self.taskbar_windows(), [])
         window = self.open_by_menu()
         self.assertIn('= "Tarvo"', self.property(window, "_NET_WM_NAME"))
         self.assertIn("minimum size: 760 by 480", self.property(window, "WM_NORMAL_HINTS"))
@@ -62,6 +66,22 @@ class DetailWindow(ProgramCase):
         self.wait_until_active(window)
         self.assertEqual(self.open_by_menu(), window)
         self.wait_until_active(window)
+
+    def test_comes_before_another_window_when_it_is_opened_again(self):
+        window = self.open_by_menu()
+        self.session.start("xev", "-geometry", "600x400+300+200")
+        other = next(opened for opened in self.wait_for_windows(2) if opened != window)
+        self.session.run("xdotool", "windowactivate", other)
+        self.wait_until_active(other)
+        wait_for(lambda: self.in_stacking_order()[-1] == other, "the other window on top")
+        self.choose_in_menu()
+        self.wait_until_active(window)
+        wait_for(lambda: self.in_stacking_order() == [other, window], "the window on top")
+
+    def in_stacking_order(self):
+        stacked = re.findall("0x[0-9a-f]+", self.session.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING"))
+        shown = self.taskbar_windows()
+        return [window for window in stacked if window in shown]
 
     def test_closing_it_leaves_the_program_running(self):
         window = self.open_by_menu()

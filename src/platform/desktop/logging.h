@@ -9,7 +9,7 @@ namespace tarvo::desktop {
 
 /// What the status bar shows and where.
 Q_DECLARE_LOGGING_CATEGORY(statusBarLog)
-/// When popovers open and close.
+/// When popovers open, close and let go of their content.
 Q_DECLARE_LOGGING_CATEGORY(popoverLog)
 /// Every widget that is painted.
 Q_DECLARE_LOGGING_CATEGORY(paintLog)

@@ -7,6 +7,7 @@ from .waiting import wait_for
 
 WIDTH = 1280
 PANEL = "360x680"
+HOT_KEY = "super+shift+m"
 
 
 @unittest.skipUnless(accessible.is_available(), "at-spi2-core or python3-dbus is not installed")
@@ -17,9 +18,17 @@ class PanelCase(ProgramCase):
         self.program = None
 
     def start_program(self, preferences=None, **environment):
+        self.start_bar(preferences, **environment)
+        self.program.wait_for_log("painted \"CPU")
+
+    def start_modular(self, preferences=None):
+        """One item a module: the processor's and the memory's, unless the preferences say otherwise."""
+        self.start_bar({"modularMenuBar": True} | (preferences or {}))
+        self.program.wait_for_painted("48%")
+
+    def start_bar(self, preferences=None, **environment):
         self.program = self.start(preferences, TARVO_STATUS_BAR="bar", **accessible.ENVIRONMENT, **environment)
         self.program.wait_for_window("DOCK")
-        self.program.wait_for_log("painted \"CPU")
 
     def click_item(self, x=WIDTH - 40):
         self.click(x, 13, 1)
@@ -40,6 +49,16 @@ class PanelCase(ProgramCase):
     def wait_until_closed(self, mark):
         self.program.wait_for_log("^tarvo.popover: closed", after=mark)
         wait_for(lambda: not self.program.windows("UTILITY"), "the end of the popover's window")
+
+    def item_place(self, name):
+        """Left, top, width and height of an item on the bar, e.g. of "CPU 23%"."""
+        return self.screen.wait_for(name, role="push button")["place"]
+
+    def press_hot_key(self, event):
+        """Presses it and waits for what the popover makes of it: shown or closed."""
+        mark = self.program.mark()
+        self.press(HOT_KEY)
+        self.program.wait_for_log("^tarvo.popover: " + event, after=mark)
 
     def active_window(self):
         answer = self.session.run("xprop", "-root", "_NET_ACTIVE_WINDOW").strip().split(" ")[-1]

@@ -51,6 +51,7 @@ QWidget* QtPopover::contentWidget() const {
 
 void QtPopover::setContent(std::unique_ptr<PopoverContent> content) {
     if (window_) window_->setContent(nullptr);
+    if (content_ && !content) qCDebug(popoverLog) << "content released";
     content_ = std::move(content);
     if (!window_) return;
     window_->setContent(contentWidget());

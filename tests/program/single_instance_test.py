@@ -54,12 +54,14 @@ class SingleInstance(ProgramCase):
     def test_the_methods_are_told_and_answered(self):
         program = self.start_bar()
         shown = self.session.bus_call(SERVICE, OBJECT, "org.freedesktop.DBus.Introspectable", "Introspect")
-        for method in ("OpenDetailWindow", "OpenPopover", "TogglePopover"):
+        for method, effect in (("TogglePopover", r"popover: shown"), ("TogglePopover", r"popover: closed"),
+                               ("OpenPopover", r"popover: shown"), ("OpenDetailWindow", r"detail: section")):
             self.assertIn(f'<method name="{method}"/>', shown[0])
             mark = program.mark()
             self.session.run("busctl", "--address=" + self.session.environment["DBUS_SESSION_BUS_ADDRESS"], "call",
                              SERVICE, OBJECT, SERVICE, method)
             program.wait_for_log(rf"^tarvo\.session: called: {method}$", after=mark)
+            program.wait_for_log(rf"^tarvo\.{effect}", after=mark)
 
     def test_without_a_bus_every_start_runs(self):
         nowhere = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=" + self.session.path("no-such-bus")}

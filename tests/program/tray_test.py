@@ -134,6 +134,31 @@ class XfceTray(ProgramCase):
         self.assertEqual(program.wait_for_end(), 0)
         wait_for(lambda: self.panel.items() == [], "an empty tray")
 
+    def item_middle(self):
+        left, top, _, height = self.panel.geometry()
+        return left + self.plate_columns()[0] + PLATE_SIDE // 2, top + height // 2
+
+    def panel_menus(self):
+        found = self.session.run("xdotool", "search", "--onlyvisible", "--class", "xfce4-panel").split()
+        return [window for window in found if "MENU" in self.session.run("xprop", "-id", window, "_NET_WM_WINDOW_TYPE")]
+
+    # A menu that has only just appeared may miss keys: they are pressed until it is gone.
+    def close_menu(self):
+        if self.panel_menus():
+            self.press("Escape")
+        return not self.panel_menus()
+
+    def test_a_right_click_opens_the_menu_and_a_left_click_then_the_popover(self):
+        program = self.start_in_tray()
+        self.click(*self.item_middle(), 3)
+        wait_for(self.panel_menus, "the panel's menu of the item")
+        self.picture("tray-menu")
+        wait_for(self.close_menu, "the end of the menu")
+        mark = program.mark()
+        self.click(*self.item_middle(), 1)
+        program.wait_for_log("^tarvo.popover: shown", after=mark)
+        self.assertEqual(self.panel_menus(), [])
+
     def test_moves_to_its_own_bar_while_there_is_no_tray(self):
         program = self.start_in_tray()
         mark = program.mark()

@@ -70,18 +70,19 @@ class DetailWindow(ProgramCase):
     def test_comes_before_another_window_when_it_is_opened_again(self):
         window = self.open_by_menu()
         self.session.start("xev", "-geometry", "600x400+300+200")
-        other = next(opened for opened in self.wait_for_windows(2) if opened != window)
-        self.session.run("xdotool", "windowactivate", other)
-        self.wait_until_active(other)
-        wait_for(lambda: self.in_stacking_order()[-1] == other, "the other window on top")
+        other = hex(int(wait_for(self.other_windows, "another window")[0]))
+        wait_for(lambda: self.lowest_first(window, other) == [window, other], "the other window on top")
         self.choose_in_menu()
         self.wait_until_active(window)
-        wait_for(lambda: self.in_stacking_order() == [other, window], "the window on top")
+        wait_for(lambda: self.lowest_first(window, other) == [other, window], "the window on top")
 
-    def in_stacking_order(self):
+    def other_windows(self):
+        return self.session.run("xdotool", "search", "--onlyvisible", "--name", "Event Tester").split()
+
+    def lowest_first(self, *windows):
+        """The windows in the order in which they cover each other."""
         stacked = re.findall("0x[0-9a-f]+", self.session.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING"))
-        shown = self.taskbar_windows()
-        return [window for window in stacked if window in shown]
+        return [window for window in stacked if window in windows]
 
     def test_closing_it_leaves_the_program_running(self):
         window = self.open_by_menu()

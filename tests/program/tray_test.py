@@ -139,7 +139,7 @@ class XfceTray(ProgramCase):
         return left + self.plate_columns()[0] + PLATE_SIDE // 2, top + height // 2
 
     def panel_menus(self):
-        found = self.session.run("xdotool", "search", "--onlyvisible", "--class", "xfce4-panel").split()
+        found = self.session.run("xdotool", "search", "--onlyvisible", "--class", "xfce4-panel|wrapper").split()
         return [window for window in found if "MENU" in self.session.run("xprop", "-id", window, "_NET_WM_WINDOW_TYPE")]
 
     # A menu that has only just appeared may miss keys: they are pressed until it is gone.

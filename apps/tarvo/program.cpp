@@ -21,6 +21,7 @@
 #include "platform/linux/system_language.h"
 #include "platform/linux/xdg_directories.h"
 #include "platform/posix/environment.h"
+#include "platform/posix/freed_memory.h"
 #include "readers/wifi_info.h"
 
 #include <QCoreApplication>
@@ -212,7 +213,8 @@ AppServices Program::appServices() {
             .evaluateAlerts = [this](const StatsSnapshot& snapshot) { alerts_.evaluate(snapshot); },
             .hotKeys = &hotKeys_,
             .checkForUpdatesIfDue = [this] { updates_.checkIfNeeded(); },
-            .saveUnsavedHistory = [this] { records_.history().save(); }};
+            .saveUnsavedHistory = [this] { records_.history().save(); },
+            .returnFreedMemory = returnFreedMemory};
 }
 
 desktop::HotKeyBinder Program::hotKeyBinder() const {

@@ -12,6 +12,9 @@ namespace {
 constexpr std::uint32_t hotKeyCode = 46;
 constexpr std::uint32_t hotKeyModifiers = 768;
 
+// Views go in the next turns of the event loop, and what they were still loading is dropped when it comes.
+constexpr std::chrono::milliseconds untilViewsAreGone{1'000};
+
 } // namespace
 
 AppDelegate::AppDelegate(AppServices services)
@@ -21,7 +24,7 @@ AppDelegate::AppDelegate(AppServices services)
                                 std::optional<StatusClick> click) { statusItemClicked(button, click); },
               .contextMenu = [this] { return contextMenu(); }}),
       detailWindow_(services_.application, services_.makeDetailWindow) {
-    detailWindow_.onOpenChanged = [this] { updateDetailVisible(); };
+    detailWindow_.onOpenChanged = [this] { detailWindowOpenChanged(); };
     if (services_.hotKeys) hotKeyManager_.emplace(*services_.hotKeys);
 }
 
@@ -31,7 +34,8 @@ void AppDelegate::applicationDidFinishLaunching() {
                                  {.makePopover = services_.makePopover,
                                   .makeContent = services_.makePopoverContent,
                                   .willShow = [this] { popoverWillShow(); },
-                                  .didClose = [this] { updateDetailVisible(); }});
+                                  .didClose = [this] { updateDetailVisible(); },
+                                  .didRelease = [this] { viewsWent(); }});
     hoverPreview_ = std::make_unique<HoverPreview>(
         services_.dispatcher, items_,
         HoverPreview::Parts{.makePopover = services_.makePopover,
@@ -140,6 +144,18 @@ void AppDelegate::openDetailWindow() {
 
 void AppDelegate::quit() {
     services_.application.terminate();
+}
+
+void AppDelegate::detailWindowOpenChanged() {
+    updateDetailVisible();
+    if (!detailWindow_.isOpen()) viewsWent();
+}
+
+void AppDelegate::viewsWent() {
+    if (!services_.returnFreedMemory) return;
+    services_.dispatcher.after(untilViewsAreGone, [weakSelf = weak_from_this()] {
+        if (const auto self = weakSelf.lock()) self->services_.returnFreedMemory();
+    });
 }
 
 void AppDelegate::updateDetailVisible() {

@@ -46,6 +46,8 @@ struct AppServices {
     HotKeys* hotKeys = nullptr; ///< null: there is no global hot key
     std::function<void()> checkForUpdatesIfDue;
     std::function<void()> saveUnsavedHistory;
+    /// Called a moment after the views of a popover or of the detail window went, when much was freed.
+    std::function<void()> returnFreedMemory = {};
 };
 
 /// The root of the running system: owns the status items, the popovers and the detail window, and turns each
@@ -84,6 +86,8 @@ private:
     bool isPopoverShown() const { return popover_ && popover_->isShown(); }
     void popoverWillShow();
     void updateDetailVisible();
+    void detailWindowOpenChanged();
+    void viewsWent();
 
     AppServices services_;
     StatusItems items_;

@@ -34,7 +34,9 @@ void MainPopover::popoverDidClose() {
 }
 
 void MainPopover::releaseContent(int generation) {
-    if (generation == teardownGeneration_ && !popover_->isShown()) popover_->setContent(nullptr);
+    if (generation != teardownGeneration_ || popover_->isShown()) return;
+    popover_->setContent(nullptr);
+    if (parts_.didRelease) parts_.didRelease();
 }
 
 } // namespace tarvo

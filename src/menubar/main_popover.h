@@ -21,6 +21,7 @@ public:
         std::function<std::unique_ptr<PopoverContent>()> makeContent;
         std::function<void()> willShow; ///< before the content is built
         std::function<void()> didClose;
+        std::function<void()> didRelease = {}; ///< after the content was released
     };
 
     /// The references outlive the popover. Null without a popover factory. A shared pointer, since the

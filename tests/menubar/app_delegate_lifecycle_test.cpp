@@ -86,6 +86,25 @@ TEST_F(Lifecycle, TheDetailWindowOfTheWholeProcessIsTheDelegates) {
     EXPECT_EQ(application.windows.size(), 1u) << "the same, brought to the front";
 }
 
+TEST_F(Lifecycle, GivesFreedMemoryBackAfterTheDetailWindowClosed) {
+    int calls = 0;
+    auto given = services();
+    given.returnFreedMemory = [&calls] { ++calls; };
+    launch(std::move(given));
+    delegate->openDetailWindow();
+    tick(std::chrono::minutes(1));
+    EXPECT_EQ(calls, 0);
+    application.closeWindow();
+    EXPECT_EQ(calls, 0) << "the views are still going";
+    tick(std::chrono::seconds(1));
+    EXPECT_EQ(calls, 1);
+    delegate->openDetailWindow();
+    application.closeWindow();
+    delegate.reset();
+    tick(std::chrono::seconds(1));
+    EXPECT_EQ(calls, 1) << "nobody to call any more";
+}
+
 TEST_F(Lifecycle, EvaluatesAlertsOnEachSnapshotWhileNotificationsAreEnabled) {
     std::vector<double> evaluated;
     auto given = services();

@@ -129,6 +129,20 @@ TEST_F(MainPopoverOfDelegate, SurvivesThatTheDelegateGoesBeforeTheRelease) {
     EXPECT_EQ(contentsMade, 1);
 }
 
+TEST_F(MainPopoverOfDelegate, GivesFreedMemoryBackAfterTheContentWent) {
+    int calls = 0;
+    auto given = services();
+    given.returnFreedMemory = [&calls] { ++calls; };
+    launch(std::move(given));
+    clickItem();
+    clickItem();
+    tick(20s);
+    EXPECT_FALSE(popover().hasContent());
+    EXPECT_EQ(calls, 0) << "it may still be going";
+    tick(1s);
+    EXPECT_EQ(calls, 1);
+}
+
 TEST_F(MainPopoverOfDelegate, LeavesTheDetailedReadingsToAnOpenDetailWindow) {
     launch();
     delegate->openDetailWindow();

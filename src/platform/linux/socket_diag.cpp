@@ -5,7 +5,6 @@
 #include <sys/time.h>
 
 #include <cerrno>
-#include <span>
 
 namespace tarvo::linux_platform {
 
@@ -21,8 +20,9 @@ bool SocketDiag::append(SocketDiagQuery query, std::vector<SocketRecord>& socket
     query.sequence = ++sequence_;
     const auto before = sockets.size();
     auto progress = isOpen() && send(query) ? SocketDiagProgress::more : SocketDiagProgress::failed;
+    std::vector<std::byte> buffer(batchSize);
     while (progress == SocketDiagProgress::more)
-        progress = receive(query, sockets);
+        progress = receive(query, buffer, sockets);
     if (progress == SocketDiagProgress::done) return true;
     // An unfinished answer must not reach the next question.
     netlink_.reset();
@@ -35,7 +35,6 @@ bool SocketDiag::isOpen() {
     netlink_ = FileDescriptor(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_SOCK_DIAG));
     if (!netlink_) return false;
     ::setsockopt(netlink_.get(), SOL_SOCKET, SO_RCVTIMEO, &longestSilence, sizeof(longestSilence));
-    buffer_.resize(batchSize);
     return true;
 }
 
@@ -44,14 +43,14 @@ bool SocketDiag::send(const SocketDiagQuery& query) {
     return ::send(netlink_.get(), request.data(), request.size(), 0) == static_cast<ssize_t>(request.size());
 }
 
-SocketDiagProgress SocketDiag::receive(const SocketDiagQuery& query, std::vector<SocketRecord>& sockets) {
+SocketDiagProgress SocketDiag::receive(const SocketDiagQuery& query, std::span<std::byte> buffer,
+                                       std::vector<SocketRecord>& sockets) {
     for (;;) {
-        const auto length = ::recv(netlink_.get(), buffer_.data(), buffer_.size(), MSG_TRUNC);
+        const auto length = ::recv(netlink_.get(), buffer.data(), buffer.size(), MSG_TRUNC);
         if (length < 0 && errno == EINTR) continue;
-        if (length <= 0 || static_cast<std::size_t>(length) > buffer_.size())
+        if (length <= 0 || static_cast<std::size_t>(length) > buffer.size())
             return SocketDiagProgress::failed;
-        return parseSocketDiagMessages(std::span(buffer_).first(static_cast<std::size_t>(length)), query,
-                                       sockets);
+        return parseSocketDiagMessages(buffer.first(static_cast<std::size_t>(length)), query, sockets);
     }
 }
 

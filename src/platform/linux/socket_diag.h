@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace tarvo::linux_platform {
@@ -19,10 +20,10 @@ public:
 private:
     bool isOpen();
     bool send(const SocketDiagQuery& query);
-    SocketDiagProgress receive(const SocketDiagQuery& query, std::vector<SocketRecord>& sockets);
+    SocketDiagProgress receive(const SocketDiagQuery& query, std::span<std::byte> buffer,
+                               std::vector<SocketRecord>& sockets);
 
     FileDescriptor netlink_;
-    std::vector<std::byte> buffer_;
     std::uint32_t sequence_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/linux/socket_owners.h"
 
+#include "platform/linux/numbered_entries.h"
+#include "platform/linux/parse_number.h"
 #include "platform/posix/file_descriptor.h"
 
 #include <fcntl.h>
@@ -35,6 +37,20 @@ std::optional<std::uint64_t> inodeOf(int folder, const char* descriptor) {
     return socketInode({link.data(), static_cast<std::size_t>(length)});
 }
 
+void addProcess(int folder, const NumberedEntry& process, NumberedEntries& entries,
+                std::vector<SocketOwner>& owners) {
+    if (process.name.size() > longestPid) return;
+    std::array<char, longestPid + descriptorsFolder.size() + 1> name{};
+    std::copy(descriptorsFolder.begin(), descriptorsFolder.end(),
+              std::copy(process.name.begin(), process.name.end(), name.begin()));
+    const auto descriptors = openFolder(folder, name.data());
+    if (!descriptors) return;
+    entries.forEach(descriptors.get(), [&](const NumberedEntry& descriptor) {
+        if (const auto inode = inodeOf(descriptors.get(), descriptor.name.data()))
+            owners.push_back({process.number, descriptor.number, *inode});
+    });
+}
+
 } // namespace
 
 std::optional<std::uint64_t> socketInode(std::string_view link) {
@@ -46,27 +62,18 @@ std::optional<std::uint64_t> socketInode(std::string_view link) {
 
 SocketOwners::SocketOwners(const Root& root) : path_(root.path("/proc")) {}
 
-void SocketOwners::list(std::vector<SocketOwner>& owners) {
+// Its buffers go with the pass: none follows while no view asks.
+void SocketOwners::list(std::vector<SocketOwner>& owners) const {
     owners.clear();
     const auto folder = openFolder(AT_FDCWD, path_.c_str());
     if (!folder) return;
-    processes_.forEach(folder.get(), [&](const auto& process) { addProcess(folder.get(), process, owners); });
+    NumberedEntries processes;
+    NumberedEntries descriptors;
+    processes.forEach(folder.get(),
+                      [&](const auto& process) { addProcess(folder.get(), process, descriptors, owners); });
     // The kernel lists them in order; the folder of a recorded machine need not.
     if (!std::is_sorted(owners.begin(), owners.end(), isBefore))
         std::sort(owners.begin(), owners.end(), isBefore);
-}
-
-void SocketOwners::addProcess(int folder, const NumberedEntry& process, std::vector<SocketOwner>& owners) {
-    if (process.name.size() > longestPid) return;
-    std::array<char, longestPid + descriptorsFolder.size() + 1> name{};
-    std::copy(descriptorsFolder.begin(), descriptorsFolder.end(),
-              std::copy(process.name.begin(), process.name.end(), name.begin()));
-    const auto descriptors = openFolder(folder, name.data());
-    if (!descriptors) return;
-    descriptors_.forEach(descriptors.get(), [&](const NumberedEntry& descriptor) {
-        if (const auto inode = inodeOf(descriptors.get(), descriptor.name.data()))
-            owners.push_back({process.number, descriptor.number, *inode});
-    });
 }
 
 } // namespace tarvo::linux_platform

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/linux/numbered_entries.h"
 #include "platform/linux/root.h"
 
 #include <cstdint>
@@ -29,14 +28,10 @@ public:
     explicit SocketOwners(const Root& root);
 
     /// Replaces the list by the sockets of this moment, by pid, then descriptor.
-    void list(std::vector<SocketOwner>& owners);
+    void list(std::vector<SocketOwner>& owners) const;
 
 private:
-    void addProcess(int folder, const NumberedEntry& process, std::vector<SocketOwner>& owners);
-
     std::string path_;
-    NumberedEntries processes_;
-    NumberedEntries descriptors_;
 };
 
 } // namespace tarvo::linux_platform

@@ -53,8 +53,10 @@ QImage SymbolImages::image(std::string_view name, double size, double ratio, con
     if (image.isNull()) return image;
     tint(image, color);
     image.setDevicePixelRatio(ratio);
-    images_.insert(key, new QImage(image));
-    return image;
+    // A picture that was painted on keeps what its painter needed; a copy of it has none of that.
+    auto* const kept = new QImage(image.copy());
+    images_.insert(key, kept);
+    return *kept;
 }
 
 } // namespace tarvo::desktop

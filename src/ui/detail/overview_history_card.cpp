@@ -8,7 +8,7 @@
 namespace tarvo::ui {
 namespace {
 
-constexpr int chartHeight = 100;
+constexpr int chartHeight = 90; // so that the overview fits into the window as it opens
 constexpr int pickerWidth = 180;
 // The picker has no segment for the live range, the first of the enumeration.
 constexpr int firstRange = static_cast<int>(HistoryRange::day);

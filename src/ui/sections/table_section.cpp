@@ -52,6 +52,7 @@ void TableSection::refresh() {
     if (shownLanguage_) model_.retranslate();
     shownLanguage_ = language;
     search_->setPrompt(t(prompt_));
+    search_->setClearName(t({.cs = "Vymazat", .en = "Clear"}));
     table_->setAccessibleName(QString::fromStdString(t(tableName_)));
 }
 

@@ -14,14 +14,23 @@ namespace {
 constexpr double symbolSize = 12;
 constexpr int fieldHeight = 30;
 constexpr double cornerRadius = 8;
+constexpr int clearSide = 22;
 
 } // namespace
 
-SearchField::SearchField(std::function<void(const QString&)> onQuery, QWidget* parent) : QLineEdit(parent) {
+// The toolkit's own button would look for its picture in the icon theme and load every image format for it.
+SearchField::SearchField(std::function<void(const QString&)> onQuery, QWidget* parent)
+    : QLineEdit(parent), clear_(new IconButton("xmark.circle.fill", symbolSize, clearSide, this)) {
     setFrame(false);
-    setClearButtonEnabled(true);
+    clear_->hide();
+    clear_->setFocusPolicy(Qt::NoFocus);
+    clear_->setCursor(Qt::ArrowCursor);
+    connect(clear_, &QAbstractButton::clicked, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, clear_,
+            [this](const QString& text) { clear_->setVisible(!text.isEmpty()); });
     setFont(textFont(TextRole::rowLabel, font()));
-    setTextMargins(metrics::regular + static_cast<int>(symbolSize) + metrics::small, 0, metrics::small, 0);
+    setTextMargins(metrics::regular + static_cast<int>(symbolSize) + metrics::small, 0,
+                   clearSide + metrics::small, 0);
     setFixedHeight(fieldHeight);
     QPalette transparent; // of this only the ground counts
     transparent.setColor(QPalette::Base, Qt::transparent);
@@ -51,6 +60,11 @@ void SearchField::paintEvent(QPaintEvent* event) {
     paintSymbol(painter, place, "magnifyingglass", theme.color(colors::secondary));
     painter.end();
     QLineEdit::paintEvent(event);
+}
+
+void SearchField::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    clear_->move(width() - clearSide - metrics::tight, (height() - clearSide) / 2);
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event) {

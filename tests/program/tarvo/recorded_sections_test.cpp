@@ -1,21 +1,15 @@
 // What the detail window says of recorded machines, word for word. The expected texts stand in
 // sections/<machine>.txt.
 
-#include "detail.h"
-#include "stored_records.h"
+#include "recorded_detail.h"
 
 #include "platform/iso8601.h"
-#include "support/manual_dispatcher.h"
-#include "support/memory_preference_store.h"
-#include "support/recorded_machine.h"
-#include "ui/detail/detail_view.h"
 #include "ui/detail/overview_history_card.h"
 #include "ui/sections/history_section.h"
 #include "ui/sections/table_section.h"
 #include "ui/shown_texts.h"
 #include "ui/table_texts.h"
 
-#include <QApplication>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -31,7 +25,6 @@ namespace {
 
 using ui::DetailSection;
 
-constexpr const char* dataFolder = "/home/ann/.local/share/Tarvo";
 constexpr long recordedPageSize = 4096;
 
 std::string expectedTexts(const std::string& machine) {
@@ -90,27 +83,8 @@ std::string graphTexts(const QWidget& overview) {
 
 class RecordedSections : public testing::TestWithParam<const char*> {
 protected:
-    RecordedSections() {
-        model->setDetailVisible(true);
-        model->start();
-        dispatcher.runAll();
-        recorded.letTimePass();
-        dispatcher.advance(std::chrono::seconds(2)); // one tick, which sees what has changed since
-        for (int minute = 0; minute < 2; ++minute)
-            machine.processDemand().sample();
-    }
-
-    ui::PanelContext panel() {
-        ui::PanelContext made{*model, settings, loc, notifications, icons, SystemFamily::other, "v1"};
-        made.historySamples = [this](double lastHours) { return records.history().samples(lastHours); };
-        made.lastHistorySample = [this] { return records.history().lastSampleTime(); };
-        return made;
-    }
-
     std::string texts(ui::DetailView& view, DetailSection section) {
-        view.select(section);
-        dispatcher.runAll();
-        QApplication::processEvents();
+        machine.showSection(view, section);
         const ui::Section* const page = view.section(section);
         std::string said = "== " + std::string(identifier(section)) + "\n" + ui::shownTexts(*page) + "\n";
         if (const auto* const table = dynamic_cast<const ui::TableSection*>(page))
@@ -119,24 +93,12 @@ protected:
         return said;
     }
 
-    RecordedMachine recorded{GetParam()};
-    ManualClock clock;
-    ManualDispatcher dispatcher{clock};
-    MemoryPreferenceStore store;
-    Settings settings{store};
-    LocalizationManager loc{store, "en"};
-    NotificationCenter notifications;
-    ui::AppIconCache icons{{}};
-    Machine machine{{.root = recorded.root()}, clock, dispatcher};
-    Bluetooth bluetooth{bluetoothBus(recorded.root()), recorded.root(), dispatcher};
-    StoredRecords records{recorded.root() + dataFolder, clock};
-    std::shared_ptr<StatsModel> model =
-        StatsModel::make(settings, clock, dispatcher, machine.readers(), nullptr);
+    RecordedDetail machine{GetParam()};
 };
 
 TEST_P(RecordedSections, SayWhatTheMachineTells) {
     if (::sysconf(_SC_PAGESIZE) != recordedPageSize) GTEST_SKIP() << "pages of another size than recorded";
-    ui::DetailView view(detailContext(panel(), machine, bluetooth, dispatcher));
+    ui::DetailView view(machine.context());
     view.resize(980, 640);
     view.show();
     std::string said;

@@ -6,6 +6,8 @@
 #include "ui/press.h"
 #include "ui/shown_texts.h"
 
+#include <QScrollArea>
+
 #include <gmock/gmock.h>
 
 namespace tarvo::ui {
@@ -147,6 +149,13 @@ TEST_F(DetailViewTest, FitsIntoTheSmallestWindow) {
         EXPECT_LE(view->minimumSizeHint().width(), 760) << identifier(section);
         EXPECT_LE(view->minimumSizeHint().height(), 480) << identifier(section);
     }
+}
+
+TEST_F(DetailViewTest, OverviewFitsIntoTheWindowAsItOpens) {
+    settle();
+    const auto* column = view->section(DetailSection::overview)->findChild<QScrollArea*>();
+    ASSERT_NE(column, nullptr);
+    EXPECT_LE(column->widget()->sizeHint().height(), column->viewport()->height());
 }
 
 TEST_F(DetailViewTest, FollowsADesktopThatTurnsDark) {

@@ -54,6 +54,23 @@ TEST_F(TableSectionsTest, ASearchInCapitalsFindsANameInMixedCase) {
     EXPECT_EQ(section->table().model()->rowCount(), 3);
 }
 
+TEST_F(TableSectionsTest, AButtonInTheSearchEmptiesItWhileThereIsSomethingInIt) {
+    const auto section = open<ProcessesSection>();
+    settle();
+    EXPECT_EQ(buttonNamed(*section, "Clear"), nullptr);
+    section->search().setText(QStringLiteral("fire"));
+    ASSERT_NE(buttonNamed(*section, "Clear"), nullptr);
+    EXPECT_TRUE(section->search().rect().contains(buttonNamed(*section, "Clear")->geometry()));
+    buttonNamed(*section, "Clear")->click();
+    EXPECT_TRUE(section->search().text().isEmpty());
+    EXPECT_EQ(buttonNamed(*section, "Clear"), nullptr);
+    EXPECT_EQ(section->table().model()->rowCount(), 3);
+    section->search().setText(QStringLiteral("fire"));
+    parts.loc.setLanguage(AppLanguage::cs);
+    QApplication::processEvents();
+    EXPECT_NE(buttonNamed(*section, "Vymazat"), nullptr);
+}
+
 TEST_F(TableSectionsTest, ASearchHoldsForTheNextListing) {
     const auto section = open<ProcessesSection>();
     settle();

@@ -20,8 +20,11 @@ std::string nameOf(std::string&& command) {
 
 std::vector<ProcInfo> topProcesses(ChildProcesses& children, ProcessSort sortedBy, std::int64_t limit) {
     const auto order = sortedBy == ProcessSort::cpu ? "-r" : "-m";
-    const auto text = children.output("/bin/ps", {"-A", "-o", "pid=,pcpu=,pmem=,comm=", order});
-    return parseProcessStatusText(text.value_or(""), limit);
+    // The tool writes its numbers as the locale has it, with a decimal comma if need be.
+    const auto result = children.run({.executable = "/bin/ps",
+                                      .arguments = {"-A", "-o", "pid=,pcpu=,pmem=,comm=", order},
+                                      .environment = {{"LC_ALL", ""}, {"LC_NUMERIC", "C"}}});
+    return parseProcessStatusText(result ? result->output : "", limit);
 }
 
 std::vector<ProcInfo> topProcesses(ProcessTable& table, ProcessSort sortedBy, std::int64_t limit) {

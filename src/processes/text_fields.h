@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/parse_double.h"
+
 #include <charconv>
-#include <cmath>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -45,14 +46,14 @@ inline std::string_view takeField(std::string_view& text) {
 /// The whole text as a decimal number in the C locale's form; infinity and "not a number" are none.
 template <typename Number>
 std::optional<Number> wholeNumber(std::string_view text) {
-    Number value{};
-    const auto* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc() || stop != end) return std::nullopt;
-    if constexpr (std::is_floating_point_v<Number>) {
-        if (!std::isfinite(value)) return std::nullopt;
+    if constexpr (std::is_same_v<Number, double>) {
+        return parseDouble(text);
+    } else {
+        Number value{};
+        const auto* const end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, value);
+        return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
     }
-    return value;
 }
 
 } // namespace tarvo

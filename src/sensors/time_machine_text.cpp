@@ -1,7 +1,6 @@
 #include "sensors/time_machine_text.h"
 
-#include <charconv>
-#include <cmath>
+#include "platform/parse_double.h"
 
 namespace tarvo {
 namespace {
@@ -11,15 +10,6 @@ std::string_view trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-/// Absent too for what is written as infinite or as no number.
-std::optional<double> number(std::string_view text) {
-    double value = 0;
-    const auto* const end = text.data() + text.size();
-    const auto [stopped, failure] = std::from_chars(text.data(), end, value);
-    return failure == std::errc() && stopped == end && std::isfinite(value) ? std::optional(value)
-                                                                            : std::nullopt;
 }
 
 } // namespace
@@ -35,7 +25,7 @@ std::optional<double> backupPercent(std::string_view status) {
     const auto start = found + marker.size();
     const auto end = status.find('"', start);
     if (end == std::string_view::npos) return std::nullopt;
-    const auto fraction = number(status.substr(start, end - start));
+    const auto fraction = parseDouble(status.substr(start, end - start));
     return fraction && *fraction >= 0 ? std::optional(*fraction * 100) : std::nullopt;
 }
 

@@ -24,6 +24,13 @@ TEST(ProcessList, TheToolIsRunWithTheOrderAskedFor) {
                             Pair("/bin/ps", ElementsAre("-A", "-o", "pid=,pcpu=,pmem=,comm=", "-m"))));
 }
 
+TEST(ProcessList, TheToolIsToWriteDecimalPoints) {
+    ScriptedChildProcesses children;
+    topProcesses(children, ProcessSort::cpu, 5);
+    EXPECT_THAT(children.requests.at(0).environment,
+                ElementsAre(Pair("LC_ALL", ""), Pair("LC_NUMERIC", "C")));
+}
+
 TEST(ProcessList, AToolThatCannotBeStartedGivesNothing) {
     ScriptedChildProcesses children;
     EXPECT_THAT(topProcesses(children, ProcessSort::cpu, 5), IsEmpty());

@@ -46,9 +46,10 @@ public:
         sigemptyset(&signals);
         posix_spawnattr_setsigmask(&attributes_, &signals);
         sigfillset(&signals);
+        sigdelset(&signals, SIGKILL); // these two are never caught: not every system takes them here
+        sigdelset(&signals, SIGSTOP);
         posix_spawnattr_setsigdefault(&attributes_, &signals);
         posix_spawnattr_setpgroup(&attributes_, 0);
-        constexpr int flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP;
         posix_spawnattr_setflags(&attributes_, static_cast<short>(flags));
     }
     ~Attributes() { posix_spawnattr_destroy(&attributes_); }
@@ -58,6 +59,16 @@ public:
     const posix_spawnattr_t* get() const { return &attributes_; }
 
 private:
+#if defined(POSIX_SPAWN_CLOEXEC_DEFAULT)
+    // Where a pipe cannot be made closed on exec in one step, another child could inherit it and keep it
+    // open.
+    static constexpr int closesOthers = POSIX_SPAWN_CLOEXEC_DEFAULT;
+#else
+    static constexpr int closesOthers = 0;
+#endif
+    static constexpr int flags =
+        POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP | closesOthers;
+
     posix_spawnattr_t attributes_;
 };
 

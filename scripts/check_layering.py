@@ -33,8 +33,10 @@ ALLOWED = {
 QT = {"platform/desktop", "ui"}
 # Folders that may use a JSON library.
 JSON = {"history", "update", "platform/linux"}
+# The folder that may use the system's frameworks, which are included as <AppKit/AppKit.h>.
+FRAMEWORKS = "platform/macos"
 
-INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]')
+INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+(["<])([^">]+)[">]')
 SYSTEM_IF = re.compile(r"^\s*#\s*(if|ifdef|elif)\b.*(__linux__|__APPLE__|_WIN32|__unix__|TARGET_OS_)")
 SYSTEM_PATH = re.compile(r'"/(proc|sys)/')
 
@@ -70,6 +72,8 @@ def offences(root):
                     yield f"{place}: {folder} may not include {target}"
             elif re.match(r"Q[A-Z]|Qt", target) and folder not in QT:
                 yield f"{place}: {folder} may not use Qt"
+            elif re.match(r"(?!Qt)[A-Z]\w*/", target) and folder != FRAMEWORKS:
+                yield f"{place}: {folder} may not use a framework"
             elif re.match(r"(nlohmann/|simdjson)", target) and folder not in JSON:
                 yield f"{place}: {folder} may not use a JSON library"
 

@@ -25,27 +25,28 @@ def put(kind, text, start, end, replacement):
 IN_MESSAGE = r"\b{0}(?=:(?!:))|(?<=[\w\])]\.){0}\b(?!\()|(?<=[\w\])] ){0}(?=\])"
 
 
-def misspelt_names(text, names):
-    """Each name of a framework that the source uses, misspelt where it stands first."""
+def misspelt_names(text, names, tried):
+    """Each name of a framework that the source uses and that was not tried yet, misspelt where it stands first."""
     code = masked(text)
     for kind, known in names.items():
-        for name in sorted(known):
+        for name in sorted(known - tried):
             match = re.search((IN_MESSAGE if kind == "selector" else r"\b{0}\b").format(name), code)
             if match:
+                tried.add(name)
                 yield put(kind, text, match.start(), match.end(), name + "X")
 
 
 def by_pattern(kind, pattern, replacement):
     """A mutation at every place that fits; the replacement, a template, takes the place of the first group."""
 
-    def mutate(text, _names):
+    def mutate(text, _names, _tried):
         for match in re.finditer(pattern, masked(text), re.M):
             yield put(kind, text, match.start(1), match.end(1), match.expand(replacement))
 
     return mutate
 
 
-def changed_signatures(text, names):
+def changed_signatures(text, names, _tried):
     """Parameters and results of methods that a framework calls."""
     code = masked(text)
     for method in re.finditer(r"^- \((\w+)\)((?:\s*\w+:\(.*?\)\w+)+)\s*\{", code, re.M | re.S):
@@ -69,6 +70,6 @@ MUTATORS = [
 ]
 
 
-def mutations(text, names):
+def mutations(text, names, tried):
     for mutator in MUTATORS:
-        yield from mutator(text, names)
+        yield from mutator(text, names, tried)

@@ -23,7 +23,7 @@ WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversi
             "-Wundeclared-selector", "-Wselector", "-Wstrict-selector-match", "-Wmethod-signatures",
             "-Wsuper-class-method-mismatch", "-Wdirect-ivar-access",
             "-Warc-repeated-use-of-weak", "-Warc-retain-cycles", "-Wexplicit-ownership-type",
-            "-Wnullable-to-nonnull-conversion", "-Wno-nullability-completeness"]
+            "-Wnullable-to-nonnull-conversion"]
 MACS = {"Apple silicon": [], "Intel": ["-DTARVO_BOOL_IS_CHARACTER"]}
 
 

@@ -30,7 +30,9 @@ def precompiled(clang, files, folder):
     header = folder / "included.h"
     header.write_text("".join(f"#include {name}\n" for name in included), encoding="utf-8")
     made = [part if part != "objective-c++" else "objective-c++-header" for part in command(clang, MAC, header)]
-    subprocess.run([part for part in made if part != "-fsyntax-only"] + ["-o", str(folder / "included.pch")], check=True)
+    made = [part for part in made if part != "-fsyntax-only"]
+    # Templates that the headers need are made here too, and not again with every mistake.
+    subprocess.run([*made, "-fpch-instantiate-templates", "-o", str(folder / "included.pch")], check=True)
     return folder / "included.pch"
 
 
@@ -67,7 +69,7 @@ def main():
         sys.exit(f"{clang} is needed for this check (scripts/install-packages.sh test) and is not there")
     files = [pathlib.Path(name).resolve() for name in chosen] or sources()
     names = framework_names(FRAMEWORKS)
-    total, failed = collections.Counter(), False
+    tried, total, failed = set(), collections.Counter(), False
     with tempfile.TemporaryDirectory() as temporary, concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         folder = pathlib.Path(temporary)
         checker = Checker(clang, folder, precompiled(clang, files, folder))
@@ -77,7 +79,7 @@ def main():
                 print(f"FAIL  {file.relative_to(ROOT)} as it stands: {error}")
                 failed = True
                 continue
-            made = list(mutations(text, names))
+            made = list(mutations(text, names, tried))
             verdicts = list(pool.map(lambda pair: checker.errors(pair[0], file, pair[1].text), enumerate(made)))
             counts, survivors = report(file, made, verdicts, each)
             total += counts

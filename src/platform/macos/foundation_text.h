@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+NS_ASSUME_NONNULL_BEGIN
+
 namespace tarvo::macos_platform {
 
 /// UTF-8 text as the system's string. Bytes that are no UTF-8 give the empty text.
@@ -27,3 +29,5 @@ inline std::optional<std::string> utf8Text(NSString* _Nullable text) {
 }
 
 } // namespace tarvo::macos_platform
+
+NS_ASSUME_NONNULL_END

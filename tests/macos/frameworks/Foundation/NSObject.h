@@ -6,10 +6,12 @@ NS_ASSUME_NONNULL_BEGIN
 
 typedef struct _NSZone NSZone;
 
+@class NSString;
+
 @protocol NSObject
 - (BOOL)isEqual:(nullable id)object;
 @property(readonly) NSUInteger hash;
-@property(readonly, copy) id description;
+@property(readonly, copy) NSString* description;
 - (BOOL)isKindOfClass:(Class)aClass;
 - (BOOL)respondsToSelector:(SEL)aSelector;
 - (BOOL)conformsToProtocol:(Protocol*)aProtocol;

@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 """Type-checks the Objective-C++ sources against the declarations under tests/macos/frameworks, without a Mac.
 
-Usage: type_check.py CLANG [FILE...]        without files: every .mm under src/ and apps/
+Usage: type_check.py CLANG [FILE...]        without files: every .mm under src/ and apps/ and the headers of the layer
+A header that imports no framework has to be plain C++, because plain C++ sources include it.
 Prints one line a file, OK or FAIL with what clang says, and exits 1 when one fails. Every file is checked as on both
 kinds of Mac: BOOL is a boolean on the one and a character on the other.
 """
 import concurrent.futures
+import functools
 import os
 import pathlib
 import shutil
@@ -16,6 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 FRAMEWORKS = ROOT / "tests/macos/frameworks"
 
 LANGUAGE = ["-x", "objective-c++", "-std=c++20", "-fobjc-arc", "-fobjc-runtime=macosx-13", "-fblocks", "-fsyntax-only"]
+PLAIN = ["-x", "c++", "-std=c++20", "-fsyntax-only", "-Wno-pragma-once-outside-header"]
 # Those of cmake/TarvoCompiler.cmake, and what clang knows of the language beyond them.
 WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-conversion",
             "-Wold-style-cast", "-Wnon-virtual-dtor", "-Woverloaded-virtual", "-Wdouble-promotion", "-Wformat=2",
@@ -28,8 +31,10 @@ MACS = {"Apple silicon": [], "Intel": ["-DTARVO_BOOL_IS_CHARACTER"]}
 
 
 def command(clang, mac, source, first_includes=()):
-    includes = [f"-I{folder}" for folder in (*first_includes, ROOT / "src", ROOT / "apps", FRAMEWORKS)]
-    return [clang, *LANGUAGE, *WARNINGS, *MACS[mac], *includes, str(source)]
+    folders = (*first_includes, ROOT / "src", ROOT / "apps", FRAMEWORKS, ROOT / "tests/macos/system")
+    includes = [f"-I{folder}" for folder in folders]
+    language = PLAIN if source in headers() else LANGUAGE
+    return [clang, *language, *WARNINGS, *MACS[mac], *includes, str(source)]
 
 
 def complaints(clang, source):
@@ -46,8 +51,15 @@ def sources():
     return sorted(path for folder in ("src", "apps") for path in (ROOT / folder).rglob("*.mm"))
 
 
+@functools.cache
+def headers():
+    """Those that plain C++ sources may include."""
+    folder = ROOT / "src/platform/macos"
+    return [path for path in sorted(folder.glob("*.h")) if "#import" not in path.read_text(encoding="utf-8")]
+
+
 def main():
-    clang, files = sys.argv[1], [pathlib.Path(name).resolve() for name in sys.argv[2:]] or sources()
+    clang, files = sys.argv[1], [pathlib.Path(name).resolve() for name in sys.argv[2:]] or sources() + headers()
     if not shutil.which(clang):
         sys.exit(f"{clang} is needed for this check (scripts/install-packages.sh test) and is not there")
     failed = not files

@@ -72,7 +72,7 @@ def offences(root):
                     yield f"{place}: {folder} may not include {target}"
             elif re.match(r"Q[A-Z]|Qt", target) and folder not in QT:
                 yield f"{place}: {folder} may not use Qt"
-            elif re.match(r"(?!Qt)[A-Z]\w*/", target) and folder != FRAMEWORKS:
+            elif re.match(r"(?!Qt)[A-Z]\w*/|mach/", target) and folder != FRAMEWORKS:
                 yield f"{place}: {folder} may not use a framework"
             elif re.match(r"(nlohmann/|simdjson)", target) and folder not in JSON:
                 yield f"{place}: {folder} may not use a JSON library"

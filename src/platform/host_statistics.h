@@ -7,7 +7,8 @@
 
 namespace tarvo {
 
-/// Tick counters of one core, never negative, in units that cancel out.
+/// Tick counters of one core, in units that cancel out. Not negative, unless the system itself counts in 32
+/// bits and has gone past the sign.
 struct CoreTicks {
     std::int32_t user = 0;
     std::int32_t system = 0;

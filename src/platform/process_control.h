@@ -14,8 +14,8 @@ public:
 
     virtual ~ProcessControl() = default;
     /// Takes hold of the process that was listed under the number, so that the request reaches exactly this
-    /// one whenever it is made: never a process that takes over the number meanwhile, never a group and never
-    /// pid 1. Any thread.
+    /// one whenever it is made: never a group, never pid 1 and, where the system has more than the number to
+    /// hold a process by, never one that takes over the number meanwhile. Any thread.
     virtual Terminate terminator(std::int32_t pid) = 0;
 
     bool terminate(std::int32_t pid) { return terminator(pid)(); }

@@ -4,8 +4,8 @@
 
 namespace tarvo::macos_platform {
 
-/// HTTPS by a data task on the shared session. That a redirect leads to plain HTTP nowhere is the work of the
-/// system, which refuses such loads to every application that does not ask for them in its Info.plist.
+/// HTTPS by a data task on the shared session. The system itself refuses plain HTTP to an application whose
+/// Info.plist does not ask for it; a reply that came that way nonetheless is a failure.
 class URLSessionClient : public HTTPSClient {
 public:
     void fetch(const std::string& address, std::chrono::milliseconds timeout, Completion completion) override;

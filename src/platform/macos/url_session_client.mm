@@ -5,15 +5,16 @@
 namespace tarvo::macos_platform {
 namespace {
 
-bool isHTTPS(NSURL* url) {
+bool isHTTPS(NSURL* _Nullable url) {
     NSString* const scheme = url.scheme;
     return scheme != nil && [scheme caseInsensitiveCompare:@"https"] == NSOrderedSame;
 }
 
+/// Of the reply that the last redirect led to.
 bool isSuccess(NSURLResponse* response) {
     if (![response isKindOfClass:[NSHTTPURLResponse class]]) return false;
     const NSInteger status = static_cast<NSHTTPURLResponse*>(response).statusCode;
-    return status >= 200 && status < 300;
+    return status >= 200 && status < 300 && isHTTPS(response.URL);
 }
 
 std::string contentOf(NSData* data) {

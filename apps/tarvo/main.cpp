@@ -4,6 +4,7 @@
 #include "platform/desktop/display_check.h"
 #include "platform/desktop/paint_log.h"
 #include "platform/desktop/session_service.h"
+#include "platform/posix/freed_memory.h"
 #include "program.h"
 #include "ui/elements/element.h"
 
@@ -32,6 +33,7 @@ int openRunningOne(desktop::SessionService& session) {
 }
 
 int runProgram(int argumentCount, char** arguments, const ProgramOptions& options) {
+    shareOneHeap();
     if (const auto missing = desktop::missingDisplay()) {
         fmt::print(stderr, "tarvo: {}\n", *missing);
         return displayStatus;

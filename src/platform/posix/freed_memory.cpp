@@ -14,4 +14,10 @@ void returnFreedMemory() {
 #endif
 }
 
+void shareOneHeap() {
+#if defined(__GLIBC__)
+    ::mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 } // namespace tarvo

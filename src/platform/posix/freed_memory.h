@@ -7,4 +7,9 @@ namespace tarvo {
 /// thread.
 void returnFreedMemory();
 
+/// Lets all threads take their memory from one heap. By itself the C library gives threads heaps of their
+/// own, which stay when those threads have ended; here they live for seconds and ask for little. To be called
+/// before there is a second thread.
+void shareOneHeap();
+
 } // namespace tarvo

@@ -4,9 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <memory>
+#include <string>
+#include <thread>
 #include <vector>
 
 namespace tarvo {
@@ -30,6 +34,26 @@ std::unique_ptr<char[]> used(std::size_t size) {
     return block;
 }
 
+#if defined(__GLIBC__)
+
+// As the C library describes them.
+int heaps() {
+    char* text = nullptr;
+    std::size_t size = 0;
+    FILE* const file = ::open_memstream(&text, &size);
+    ::malloc_info(0, file);
+    std::fclose(file);
+    const std::string description(text, size);
+    std::free(text); // NOLINT(cppcoreguidelines-no-malloc): the stream took it from there
+    int count = 0;
+    for (auto at = description.find("<heap "); at != std::string::npos;
+         at = description.find("<heap ", at + 1))
+        ++count;
+    return count;
+}
+
+#endif
+
 } // namespace
 
 TEST(FreedMemory, GoesBackToTheSystemFromBelowWhatIsStillInUse) {
@@ -47,6 +71,21 @@ TEST(FreedMemory, GoesBackToTheSystemFromBelowWhatIsStillInUse) {
     EXPECT_LT(after + blockBytes / largestPage / 2, before);
     EXPECT_EQ(above[63], 1);
 }
+
+#if defined(__GLIBC__)
+
+// In a process of its own: in this one other tests have had threads already.
+TEST(SharedHeapDeathTest, IsTheOnlyOneWhenAThreadHasTakenMemory) {
+    if (!heapInUse()) GTEST_SKIP() << "this heap is not the C library's";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto heapsAfterAThread = [] {
+        std::thread([] { used(blockSize); }).join();
+        return heaps();
+    };
+    EXPECT_EXIT(shareOneHeap(); std::_Exit(heapsAfterAThread()), testing::ExitedWithCode(1), "");
+}
+
+#endif
 
 TEST(FreedMemory, MayBeAskedForWhenNothingIsFree) {
     returnFreedMemory();

@@ -1,4 +1,5 @@
 #include "composition/machine.h"
+#include "composition/user.h"
 #include "core/settings.h"
 #include "core/stats_model.h"
 #include "interval_preferences.h"
@@ -7,10 +8,6 @@
 #include "localization/localization_manager.h"
 #include "options.h"
 #include "platform/build_options.h"
-#include "platform/linux/preference_file.h"
-#include "platform/linux/system_language.h"
-#include "platform/linux/xdg_directories.h"
-#include "platform/posix/environment.h"
 #include "platform/posix/poll_dispatcher.h"
 #include "platform/posix/system_clock.h"
 #include "status_run.h"
@@ -94,14 +91,11 @@ int run(const Options& options) {
     SystemClock clock;
     PollDispatcher loop(clock);
     TrackingDispatcher dispatcher(loop);
-    linux_platform::PreferenceFile user(linux_platform::preferenceFilePath(processEnvironment).value_or(""),
-                                        clock);
-    IntervalPreferences preferences(user);
+    const User user = openUser(clock);
+    IntervalPreferences preferences(*user.preferences);
     Settings settings(preferences);
     std::optional<LocalizationManager> localization;
-    const auto chooseLanguage = [&] {
-        localization.emplace(preferences, linux_platform::systemLanguageCode(processEnvironment));
-    };
+    const auto chooseLanguage = [&] { localization.emplace(preferences, user.languageCode()); };
     chooseLanguage();
     // Without the details nobody asks for a sensor, and so none is looked for.
     Machine machine({.root = options.root, .readsSensors = options.detail}, clock, dispatcher);
@@ -113,7 +107,7 @@ int run(const Options& options) {
                    .end = [&] { loop.stop(); },
                    .refreshPreferences =
                        [&] {
-                           if (user.reloadIfChanged()) chooseLanguage();
+                           if (user.reloadPreferences()) chooseLanguage();
                        }});
     loop.watchHangUp(STDOUT_FILENO, [&] { loop.stop(); });
     run.start();

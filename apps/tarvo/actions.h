@@ -4,12 +4,11 @@
 #include "actions/quick_actions.h"
 #include "core/settings.h"
 #include "platform/desktop/qt_dialogs.h"
-#include "platform/linux/linux_desktop_actions.h"
-#include "platform/posix/environment.h"
 #include "ui/cards/automations_context.h"
 #include "ui/pages/panel_context.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace tarvo {
@@ -20,9 +19,10 @@ struct ActionServices {
     LocalizationManager& localization;
     Dispatcher& dispatcher;
     ProcessControl& processes;
+    DesktopActions& desktop;
+    std::shared_ptr<Automations> automations;
+    std::string automationPlace;            ///< as it is shown to people; empty: it is not told
     std::function<void()> refreshProcesses; ///< asks the model for fresh process lists now
-    std::string root = {};                  ///< folder of a recorded machine, whose volumes hold the trash
-    Environment environment = processEnvironment;
 };
 
 /// The one-click actions and the automations of the desktop program with the dialogs that they show. Main
@@ -37,7 +37,6 @@ public:
 
 private:
     desktop::QtDialogs dialogs_;
-    linux_platform::LinuxDesktopActions desktop_;
     QuickActions quickActions_;
     AutomationRunner automations_;
     ui::AutomationsContext automationsContext_;

@@ -1,35 +1,36 @@
 #pragma once
 
 #include "core/shared_instance.h"
-#include "platform/desktop/system_bus.h"
-#include "platform/dispatcher.h"
+#include "platform/bluetooth.h"
 #include "sensors/bluetooth_battery_monitor.h"
 #include "sensors/bluetooth_devices_fetcher.h"
 
 #include <functional>
-#include <string>
+#include <memory>
 #include <vector>
 
 namespace tarvo {
 
-/// The bus on which BlueZ stands. A recorded machine has none.
-desktop::ConnectBus bluetoothBus(const std::string& root);
+/// Where a system tells of Bluetooth.
+struct BluetoothSources {
+    BluetoothCentralManagerFactory centralManagers;
+    std::shared_ptr<PairedBluetoothDevices> pairedDevices;
+};
 
 /// Bluetooth as the desktop program knows it: the charges of accessories and the paired devices. Nothing is
-/// asked of the system before a view asks, and without BlueZ both stay empty. Main thread only.
+/// asked of the system before a view asks. Main thread only.
 class Bluetooth {
 public:
-    /// `root` is the folder of a recorded machine, empty for this one. The dispatcher outlives this.
-    Bluetooth(desktop::ConnectBus connect, const std::string& root, Dispatcher& dispatcher);
+    explicit Bluetooth(BluetoothSources sources);
 
     BluetoothBatteryMonitor& batteryMonitor() { return monitor_; }
 
-    /// Lists the paired devices; waits for BlueZ, so not on the main thread. Outlives this.
+    /// Lists the paired devices; waits for the system, so not on the main thread. Outlives this.
     using PairedLister = std::function<std::vector<BluetoothDeviceInfo>()>;
     PairedLister pairedDevices() const;
 
 private:
-    desktop::ConnectBus connect_;
+    std::shared_ptr<PairedBluetoothDevices> pairedDevices_;
     BluetoothBatteryMonitor monitor_;
     SharedInstance<BluetoothBatteryMonitor> sharedMonitor_;
 };

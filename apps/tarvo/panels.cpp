@@ -3,7 +3,6 @@
 #include "platform/build_options.h"
 #include "platform/desktop/open_link.h"
 #include "platform/desktop/popover/widget_content.h"
-#include "platform/desktop/theme_icon.h"
 #include "ui/pages/popover_view.h"
 
 #include <string>
@@ -11,20 +10,8 @@
 
 namespace tarvo {
 
-namespace {
-
-ui::ApplicationIconSource iconSource(ProcessIcons* icons) {
-    if (!icons) return {};
-    return [icons](std::int32_t pid) -> std::optional<QIcon> {
-        const auto icon = icons->icon(pid);
-        return icon ? desktop::applicationIcon(*icon) : std::nullopt;
-    };
-}
-
-} // namespace
-
 Panels::Panels(PanelServices services)
-    : services_(std::move(services)), icons_(iconSource(services_.processIcons.get())) {}
+    : services_(std::move(services)), icons_(std::move(services_.applicationIcons)) {}
 
 ui::PanelContext Panels::context() {
     ui::PanelContext context{services_.model,
@@ -32,7 +19,7 @@ ui::PanelContext Panels::context() {
                              services_.localization,
                              services_.notifications,
                              icons_,
-                             SystemFamily::other,
+                             services_.family,
                              appVersionString(std::string(build_options::version))};
     HistoryStore& history = services_.history;
     context.availableUpdate = &services_.updates.publishedAvailable();

@@ -6,7 +6,7 @@
 #include "history/history_store.h"
 #include "localization/localization_manager.h"
 #include "platform/popover.h"
-#include "platform/process_icons.h"
+#include "platform/system_family.h"
 #include "ui/elements/app_icon_cache.h"
 #include "ui/pages/panel_context.h"
 #include "update/update_checker.h"
@@ -24,7 +24,8 @@ struct PanelServices {
     NotificationCenter& notifications;
     HistoryStore& history;
     UpdateChecker& updates;
-    std::unique_ptr<ProcessIcons> processIcons;
+    SystemFamily family = SystemFamily::other;
+    ui::ApplicationIconSource applicationIcons;
     BluetoothBatteryMonitor* bluetoothBattery = nullptr; ///< null: no accessory is ever known
     std::function<void()> openDetailWindow;
     std::function<void()> quit;

@@ -1,6 +1,6 @@
 // Bluetooth as the desktop program wires it, over BlueZ on a bus of the test's own.
 
-#include "bluetooth.h"
+#include "linux/bluez.h"
 
 #include "platform/desktop/qt_dispatcher.h"
 #include "support/mock_bluez.h"
@@ -36,11 +36,12 @@ protected:
     MockBluez bluez{bus};
     desktop::QtDispatcher dispatcher;
     std::atomic<int> connections = 0;
-    Bluetooth bluetooth{[this, connection = bus.connect()] {
-                            ++connections;
-                            return connection;
-                        },
-                        machine.path().string(), dispatcher};
+    Bluetooth bluetooth{bluezSources(
+        [this, connection = bus.connect()] {
+            ++connections;
+            return connection;
+        },
+        machine.path().string(), dispatcher)};
 };
 
 TEST_F(BluetoothOfTheProgram, AsksNothingBeforeAViewDoes) {

@@ -1,4 +1,4 @@
-#include "hot_key_text.h"
+#include "linux/hot_key_text.h"
 
 #include <gmock/gmock.h>
 

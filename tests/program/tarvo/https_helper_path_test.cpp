@@ -1,4 +1,4 @@
-#include "https_helper_path.h"
+#include "linux/https_helper_path.h"
 
 #include "support/temporary_folder.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "detail.h"
+#include "linux/bluez.h"
 #include "stored_records.h"
 
 #include "support/manual_dispatcher.h"
@@ -55,7 +56,7 @@ private:
     NotificationCenter notifications_;
     ui::AppIconCache icons_{{}};
     Machine machine_{{.root = recorded_.root()}, clock_, dispatcher_};
-    Bluetooth bluetooth_{bluetoothBus(recorded_.root()), recorded_.root(), dispatcher_};
+    Bluetooth bluetooth_{bluezSources(bluetoothBus(recorded_.root()), recorded_.root(), dispatcher_)};
     StoredRecords records_{recorded_.root() + "/home/ann/.local/share/Tarvo", clock_};
     std::shared_ptr<StatsModel> model_ =
         StatsModel::make(settings_, clock_, dispatcher_, machine_.readers(), nullptr);

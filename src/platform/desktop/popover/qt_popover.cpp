@@ -1,8 +1,6 @@
 #include "platform/desktop/popover/qt_popover.h"
 
 #include "platform/desktop/logging.h"
-#include "platform/desktop/popover/compositing.h"
-#include "platform/desktop/popover/pointer_position.h"
 #include "platform/desktop/popover/popover_placement.h"
 #include "platform/desktop/popover/widget_content.h"
 
@@ -122,11 +120,10 @@ bool QtPopover::keepsOpen() const {
            QApplication::activeModalWidget();
 }
 
-PopoverFactory makePopoverFactory() {
-    return [](const PopoverOptions& options, std::function<void()> didClose) {
-        return std::make_unique<QtPopover>(
-            options, std::move(didClose),
-            PopoverSurroundings{.composites = compositesWindows, .pointerPosition = pointerPosition});
+PopoverFactory makePopoverFactory(PopoverSurroundings surroundings) {
+    return [surroundings = std::move(surroundings)](const PopoverOptions& options,
+                                                    std::function<void()> didClose) {
+        return std::make_unique<QtPopover>(options, std::move(didClose), surroundings);
     };
 }
 

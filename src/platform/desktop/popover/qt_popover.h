@@ -62,7 +62,7 @@ private:
     QTimer closing_; ///< runs from the loss of the keyboard until it counts as closed
 };
 
-/// Makes popovers of that kind; the surroundings are those of the desktop.
-PopoverFactory makePopoverFactory();
+/// Makes popovers of that kind in those surroundings.
+PopoverFactory makePopoverFactory(PopoverSurroundings surroundings);
 
 } // namespace tarvo::desktop

@@ -1,9 +1,5 @@
 #include "platform/desktop/symbols/symbol_images.h"
 
-#include "platform/desktop/symbols/drawn_symbols.h"
-
-#include <QFile>
-#include <QImageReader>
 #include <QPainter>
 
 #include <cmath>
@@ -24,21 +20,7 @@ void tint(QImage& image, const QColor& color) {
     painter.fillRect(image.rect(), color);
 }
 
-// The reader finds the SVG code as a plug-in, so that a program that shows no symbol never loads it.
-QImage renderEmbedded(const QString& name, int pixels) {
-    QFile file(QStringLiteral(":/symbols/") + name);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    QImageReader reader(&file, "svg");
-    reader.setScaledSize(QSize(pixels, pixels));
-    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
 } // namespace
-
-QImage renderSymbol(const QString& name, int pixels) {
-    if (QImage embedded = renderEmbedded(name, pixels); !embedded.isNull()) return embedded;
-    return drawSymbol(name, pixels);
-}
 
 SymbolImages::SymbolImages() : images_(maximumImages) {}
 

@@ -17,4 +17,4 @@ foreach(row IN LISTS rows)
   endif()
 endforeach()
 
-qt_add_resources(tarvo_desktop symbols PREFIX /symbols BASE ${CMAKE_CURRENT_BINARY_DIR}/embedded FILES ${icons})
+qt_add_resources(tarvo_qt_windows symbols PREFIX /symbols BASE ${CMAKE_CURRENT_BINARY_DIR}/embedded FILES ${icons})

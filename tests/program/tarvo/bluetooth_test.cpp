@@ -95,11 +95,12 @@ TEST_F(BluetoothOfTheProgram, ShowsNothingWithoutBluez) {
 
 TEST_F(BluetoothOfTheProgram, LeavesTheMainThreadFreeWhileTheBusHangs) {
     std::promise<void> answer;
-    Bluetooth hanging{[&answer] {
-                          answer.get_future().wait();
-                          return QDBusConnection(QStringLiteral("none"));
-                      },
-                      machine.path().string(), dispatcher};
+    Bluetooth hanging{bluezSources(
+        [&answer] {
+            answer.get_future().wait();
+            return QDBusConnection(QStringLiteral("none"));
+        },
+        machine.path().string(), dispatcher)};
     hanging.batteryMonitor().refresh();
     bool turned = false;
     dispatcher.async([&turned] { turned = true; });

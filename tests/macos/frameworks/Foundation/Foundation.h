@@ -9,6 +9,7 @@
 
 #include <Foundation/NSAppleScript.h>
 #include <Foundation/NSArray.h>
+#include <Foundation/NSAttributedString.h>
 #include <Foundation/NSBundle.h>
 #include <Foundation/NSData.h>
 #include <Foundation/NSDate.h>

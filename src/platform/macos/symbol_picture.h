@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace tarvo::macos_platform {
+
+/// The system's picture of a symbol ("cpu.fill") in black on a transparent square of `side` pixels, as large
+/// as it fits and centred: rows from the top, four bytes a pixel, red, green, blue and alpha, the colours
+/// multiplied with alpha. Absent for a name that this version of the system does not have. Main thread only.
+std::optional<std::vector<std::uint8_t>> symbolPicture(std::string_view name, int side);
+
+} // namespace tarvo::macos_platform

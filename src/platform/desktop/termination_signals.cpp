@@ -1,7 +1,8 @@
 #include "platform/desktop/termination_signals.h"
 
+#include "platform/posix/pipe.h"
+
 #include <csignal>
-#include <fcntl.h>
 #include <unistd.h>
 #include <utility>
 
@@ -28,11 +29,13 @@ void setHandler(void (*handler)(int)) {
 } // namespace
 
 TerminationSignals::TerminationSignals(std::function<void()> asked) {
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) return;
-    signals_ = FileDescriptor(ends[0]);
-    wakeUpPipe = ends[1];
-    notifier_ = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
+    auto pipe = makePipe();
+    if (!pipe) return;
+    setNonBlocking(pipe->readEnd);
+    setNonBlocking(pipe->writeEnd);
+    signals_ = std::move(pipe->readEnd);
+    wakeUpPipe = pipe->writeEnd.release();
+    notifier_ = std::make_unique<QSocketNotifier>(signals_.get(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this, asked = std::move(asked)] {
                          char byte = 0;

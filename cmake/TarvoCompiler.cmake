@@ -84,6 +84,9 @@ function(tarvo_library name)
   else()
     target_precompile_headers(${name} REUSE_FROM tarvo_library_headers)
   endif()
+  # The precompiled headers are C++ and no other language.
+  list(FILTER arg_SOURCES INCLUDE REGEX "\\.mm$")
+  set_source_files_properties(${arg_SOURCES} PROPERTIES SKIP_PRECOMPILE_HEADERS ON COMPILE_OPTIONS -fobjc-arc)
 endfunction()
 
 # tarvo_test(NAME [DRAWS|DESKTOP] SOURCES ... [LINK ...])

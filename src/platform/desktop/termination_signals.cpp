@@ -1,7 +1,5 @@
 #include "platform/desktop/termination_signals.h"
 
-#include "platform/posix/pipe.h"
-
 #include <csignal>
 #include <unistd.h>
 #include <utility>
@@ -29,24 +27,23 @@ void setHandler(void (*handler)(int)) {
 } // namespace
 
 TerminationSignals::TerminationSignals(std::function<void()> asked) {
-    auto pipe = makePipe();
-    if (!pipe) return;
-    setNonBlocking(pipe->readEnd);
-    setNonBlocking(pipe->writeEnd);
-    signals_ = std::move(pipe->readEnd);
-    wakeUpPipe = pipe->writeEnd.release();
-    notifier_ = std::make_unique<QSocketNotifier>(signals_.get(), QSocketNotifier::Read);
+    signals_ = makePipe();
+    if (!signals_) return;
+    setNonBlocking(signals_->readEnd);
+    setNonBlocking(signals_->writeEnd);
+    wakeUpPipe = signals_->writeEnd.get();
+    notifier_ = std::make_unique<QSocketNotifier>(signals_->readEnd.get(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this, asked = std::move(asked)] {
                          char byte = 0;
-                         if (::read(signals_.get(), &byte, 1) == 1) asked();
+                         if (::read(signals_->readEnd.get(), &byte, 1) == 1) asked();
                      });
     setHandler(handle);
 }
 
 TerminationSignals::~TerminationSignals() {
     setHandler(SIG_DFL);
-    if (wakeUpPipe >= 0) ::close(std::exchange(wakeUpPipe, -1));
+    wakeUpPipe = -1;
 }
 
 } // namespace tarvo::desktop

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/posix/file_descriptor.h"
+#include "platform/posix/pipe.h"
 
 #include <QSocketNotifier>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tarvo::desktop {
 
@@ -18,7 +19,7 @@ public:
     TerminationSignals& operator=(const TerminationSignals&) = delete;
 
 private:
-    FileDescriptor signals_;
+    std::optional<Pipe> signals_;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

@@ -1,4 +1,4 @@
-#include "platform/macos/symbol_picture.h"
+#include "platform/symbol_picture.h"
 
 #include "platform/macos/foundation_text.h"
 
@@ -6,7 +6,10 @@
 
 #include <algorithm>
 
-namespace tarvo::macos_platform {
+namespace tarvo {
+
+using macos_platform::systemText;
+
 namespace {
 
 constexpr NSInteger bytesPerPixel = 4;
@@ -56,4 +59,4 @@ std::optional<std::vector<std::uint8_t>> symbolPicture(std::string_view name, in
     }
 }
 
-} // namespace tarvo::macos_platform
+} // namespace tarvo

@@ -86,7 +86,7 @@ function(tarvo_library name)
   endif()
   # The precompiled headers are C++ and no other language.
   list(FILTER arg_SOURCES INCLUDE REGEX "\\.mm$")
-  set_source_files_properties(${arg_SOURCES} PROPERTIES SKIP_PRECOMPILE_HEADERS ON COMPILE_OPTIONS -fobjc-arc)
+  set_source_files_properties(${arg_SOURCES} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
 # tarvo_test(NAME [DRAWS|DESKTOP] SOURCES ... [LINK ...])

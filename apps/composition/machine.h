@@ -30,6 +30,9 @@ struct MachineOptions {
     std::function<DeviceHint(const std::string& device)> volumeHint{};
 };
 
+/// Whether a machine recorded in a folder can be read on this system.
+bool readsRecordedMachines();
+
 /// The sources of one machine and the readers wired to them: what both programs have in common. Made and
 /// destroyed on the main thread; the readers keep what they use alive.
 class Machine {

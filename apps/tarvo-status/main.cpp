@@ -118,6 +118,9 @@ int run(const Options& options) {
 }
 
 int perform(const Options& options) {
+    if (!options.root.empty() && !readsRecordedMachines()) {
+        return fail(badArguments, "--root: recorded machines can be read on Linux only");
+    }
     if (!options.root.empty() && !isFolder(options.root)) {
         return fail(badArguments, fmt::format("--root: there is no folder '{}'", options.root));
     }

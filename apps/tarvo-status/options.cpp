@@ -1,9 +1,10 @@
 #include "options.h"
 
+#include "platform/parse_double.h"
+
 #include <fmt/format.h>
 
 #include <array>
-#include <charconv>
 #include <utility>
 
 namespace tarvo::status {
@@ -19,14 +20,12 @@ constexpr std::array formats{std::pair{std::string_view("text"), OutputFormat::t
 using Problem = std::optional<std::string>;
 
 Problem setInterval(Options& options, std::string_view text) {
-    double seconds = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    const bool isNumber = error == std::errc() && end == text.data() + text.size();
-    if (!isNumber || !(seconds >= shortestInterval) || !(seconds <= longestInterval)) {
+    const auto seconds = parseDouble(text);
+    if (!seconds || *seconds < shortestInterval || *seconds > longestInterval) {
         return fmt::format("--interval takes seconds from {} to {}, not '{}'", shortestInterval,
                            longestInterval, text);
     }
-    options.interval = Seconds(seconds);
+    options.interval = Seconds(*seconds);
     return std::nullopt;
 }
 

@@ -84,6 +84,10 @@ MachineSources::Processes lister(ProcessTable& table) {
 
 } // namespace
 
+bool readsRecordedMachines() {
+    return true;
+}
+
 MachineSources openMachineSources(MachineOptions options, Clock& clock, Dispatcher& dispatcher) {
     const auto machine = std::make_shared<LinuxMachine>(std::move(options), clock, dispatcher);
     LinuxProcesses& processes = machine->processes;

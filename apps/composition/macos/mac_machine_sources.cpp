@@ -6,8 +6,8 @@
 #include "platform/macos/mac_io_registry.h"
 #include "platform/macos/mac_network_interfaces.h"
 #include "platform/macos/mac_power_sources.h"
-#include "platform/macos/macos_volumes.h"
 #include "platform/macos/mach_host_statistics.h"
+#include "platform/macos/macos_volumes.h"
 #include "platform/macos/tmutil_backup_tool.h"
 #include "platform/posix/posix_child_processes.h"
 #include "processes/network_processes.h"
@@ -39,6 +39,10 @@ struct MacMachine {
 };
 
 } // namespace
+
+bool readsRecordedMachines() {
+    return false;
+}
 
 // The tools measure shares by themselves, so that all who list processes ask the same one.
 MachineSources openMachineSources(MachineOptions options, Clock&, Dispatcher& dispatcher) {

@@ -89,11 +89,14 @@ function(tarvo_library name)
   set_source_files_properties(${arg_SOURCES} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
-# tarvo_test(NAME [DRAWS|DESKTOP] SOURCES ... [LINK ...])
-# One GoogleTest program; every test in it is one CTest test named NAME.Suite.Case. DESKTOP: it uses Qt, but draws
-# little or nothing.
+# tarvo_test(NAME [THREADS] [DRAWS|DESKTOP] SOURCES ... [LINK ...])
+# One GoogleTest program; every test in it is one CTest test named NAME.Suite.Case. THREADS: it starts some, or tests what
+# does; under ThreadSanitizer no others are built. DESKTOP: it uses Qt, but draws little or nothing.
 function(tarvo_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "DRAWS;DESKTOP" "" "SOURCES;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "THREADS;DRAWS;DESKTOP" "" "SOURCES;LINK")
+  if(TARVO_SANITIZE STREQUAL "thread" AND NOT arg_THREADS)
+    return()
+  endif()
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${arg_LINK} tarvo_test_support tarvo_options fmt::fmt GTest::gmock GTest::gtest_main)

@@ -7,7 +7,6 @@ NS_ASSUME_NONNULL_BEGIN
 
 extern "C" {
 extern NSString* const NSAppleScriptErrorMessage; // NSString
-extern NSString* const NSAppleScriptErrorNumber;  // NSNumber
 }
 
 @interface NSAppleEventDescriptor : NSObject <NSCopying>

@@ -7,11 +7,9 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSArray<__covariant ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 @property(readonly) NSUInteger count;
 @property(nullable, nonatomic, readonly) ObjectType firstObject;
-- (ObjectType)objectAtIndex:(NSUInteger)index;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 + (instancetype)array;
 + (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
-- (BOOL)containsObject:(ObjectType)anObject;
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>

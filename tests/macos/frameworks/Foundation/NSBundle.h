@@ -8,9 +8,6 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSBundle : NSObject
 @property(class, readonly, strong) NSBundle* mainBundle;
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
-@property(readonly, copy) NSString* bundlePath;
-@property(nullable, readonly, copy) NSDictionary<NSString*, id>* infoDictionary;
-- (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -12,5 +12,4 @@ extern "C" {
 NSPoint NSMakePoint(CGFloat x, CGFloat y);
 NSSize NSMakeSize(CGFloat w, CGFloat h);
 NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h);
-BOOL NSPointInRect(NSPoint aPoint, NSRect aRect);
 }

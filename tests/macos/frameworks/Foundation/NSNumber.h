@@ -21,11 +21,9 @@ NS_ASSUME_NONNULL_BEGIN
 + (NSNumber*)numberWithInteger:(NSInteger)value;
 + (NSNumber*)numberWithUnsignedInteger:(NSUInteger)value;
 @property(readonly) BOOL boolValue;
-@property(readonly) int intValue;
 @property(readonly) long long longLongValue;
 @property(readonly) unsigned long long unsignedLongLongValue;
 @property(readonly) double doubleValue;
-@property(readonly) NSInteger integerValue;
 @end
 
 NS_ASSUME_NONNULL_END

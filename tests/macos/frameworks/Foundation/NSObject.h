@@ -10,11 +10,8 @@ typedef struct _NSZone NSZone;
 
 @protocol NSObject
 - (BOOL)isEqual:(nullable id)object;
-@property(readonly) NSUInteger hash;
 @property(readonly, copy) NSString* description;
 - (BOOL)isKindOfClass:(Class)aClass;
-- (BOOL)respondsToSelector:(SEL)aSelector;
-- (BOOL)conformsToProtocol:(Protocol*)aProtocol;
 - (instancetype)retain OBJC_ARC_UNAVAILABLE;
 - (oneway void)release OBJC_ARC_UNAVAILABLE;
 - (instancetype)autorelease OBJC_ARC_UNAVAILABLE;

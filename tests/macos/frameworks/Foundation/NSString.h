@@ -18,9 +18,7 @@ typedef NS_ENUM(NSInteger, NSComparisonResult) {
 - (nullable instancetype)initWithBytes:(const void*)bytes
                                 length:(NSUInteger)len
                               encoding:(NSStringEncoding)encoding;
-+ (nullable instancetype)stringWithUTF8String:(const char*)nullTerminatedCString;
 - (NSUInteger)lengthOfBytesUsingEncoding:(NSStringEncoding)enc;
-- (BOOL)isEqualToString:(NSString*)aString;
 - (NSComparisonResult)caseInsensitiveCompare:(NSString*)string;
 @end
 

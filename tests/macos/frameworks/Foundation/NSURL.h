@@ -21,7 +21,6 @@ extern NSURLResourceKey const NSURLVolumeIsInternalKey;                         
 + (nullable instancetype)URLWithString:(NSString*)URLString;
 + (NSURL*)fileURLWithPath:(NSString*)path;
 + (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDir;
-@property(nullable, readonly, copy) NSString* absoluteString;
 @property(nullable, readonly, copy) NSString* scheme;
 @property(nullable, readonly, copy) NSString* path;
 - (nullable NSDictionary<NSURLResourceKey, id>*)

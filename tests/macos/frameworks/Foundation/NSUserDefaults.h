@@ -13,9 +13,6 @@ extern NSNotificationName const NSUserDefaultsDidChangeNotification;
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
 - (nullable id)objectForKey:(NSString*)defaultName;
 - (void)setObject:(nullable id)value forKey:(NSString*)defaultName;
-- (void)setInteger:(NSInteger)value forKey:(NSString*)defaultName;
-- (void)setDouble:(double)value forKey:(NSString*)defaultName;
-- (void)setBool:(BOOL)value forKey:(NSString*)defaultName;
 - (void)removeObjectForKey:(NSString*)defaultName;
 @end
 

@@ -5,6 +5,9 @@ import re
 NO_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|^[ \t]*#[^\n]*', re.S | re.M)
 
 
+SAMPLED_KINDS = 2
+
+
 class Mutation:
     def __init__(self, kind, what, text, line):
         self.kind, self.what, self.text, self.line = kind, what, text, line
@@ -30,6 +33,8 @@ def misspelt_names(text, names, tried):
     code = masked(text)
     for kind, known in names.items():
         for name in sorted(known - tried):
+            if name not in code:
+                continue
             match = re.search((IN_MESSAGE if kind == "selector" else r"\b{0}\b").format(name), code)
             if match:
                 tried.add(name)
@@ -73,3 +78,12 @@ MUTATORS = [
 def mutations(text, names, tried):
     for mutator in MUTATORS:
         yield from mutator(text, names, tried)
+
+
+def sample(made, counts):
+    """A few of the mistakes of one source, of the kinds that were tried least; always the same ones."""
+    by_kind = {}
+    for mutation in made:
+        by_kind.setdefault(mutation.kind, []).append(mutation)
+    chosen = sorted(by_kind, key=lambda kind: (counts[kind], len(by_kind[kind]), kind))[:SAMPLED_KINDS]
+    return [by_kind[kind][len(by_kind[kind]) // 2] for kind in chosen]

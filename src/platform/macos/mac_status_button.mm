@@ -1,6 +1,7 @@
 #include "platform/macos/mac_status_button.h"
 
 #include "platform/macos/foundation_text.h"
+#include "platform/macos/screen_coordinates.h"
 #include "platform/macos/status_image.h"
 #include "platform/macos/text_style.h"
 
@@ -25,10 +26,8 @@ std::optional<StatusClick> currentClick() {
     return std::nullopt;
 }
 
-/// The system counts upwards from the bottom of the first screen, the program downwards from its top.
-Rect fromTop(NSRect rect, NSScreen* firstScreen) {
-    return {rect.origin.x, firstScreen.frame.size.height - (rect.origin.y + rect.size.height),
-            rect.size.width, rect.size.height};
+Rect plain(NSRect rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
 } // namespace
@@ -79,7 +78,7 @@ std::optional<Rect> MacStatusButton::screenRect() const {
     NSScreen* const firstScreen = NSScreen.screens.firstObject;
     if (window == nil || firstScreen == nil) return std::nullopt;
     const NSRect inWindow = [button_ convertRect:button_.bounds toView:nil];
-    return fromTop([window convertRectToScreen:inWindow], firstScreen);
+    return fromTop(plain([window convertRectToScreen:inWindow]), firstScreen.frame.size.height);
 }
 
 } // namespace tarvo::macos_platform

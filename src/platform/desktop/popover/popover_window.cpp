@@ -47,6 +47,8 @@ PopoverWindow::PopoverWindow(Kind kind, bool composited)
     setAttribute(Qt::WA_TranslucentBackground, composited);
     setAttribute(Qt::WA_ShowWithoutActivating, kind == Kind::preview);
     setAttribute(Qt::WA_QuitOnClose, false);
+    // macOS would hide it while another application is in front, which is when a preview is wanted.
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     resizePanel(emptySize);
 }
 

@@ -21,6 +21,8 @@
 #include <memory>
 #include <string>
 
+class QWidget;
+
 namespace tarvo {
 
 /// What the platform's parts work with; all of it outlives them.
@@ -65,6 +67,8 @@ public:
     /// Made when it is first asked for.
     virtual StatusBar& statusBar() = 0;
     virtual PopoverFactory popovers() = 0;
+    /// Gives the detail window what the system's own windows have beyond Qt's; before it is filled.
+    virtual void prepareDetailWindow(QWidget& window) = 0;
     /// Made when they are first asked for; `description` says what the key does, for desktops that show it.
     virtual HotKeys& hotKeys(const std::string& description) = 0;
     /// What became of the hot key, in a sentence.

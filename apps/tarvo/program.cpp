@@ -128,6 +128,7 @@ AppServices Program::appServices() {
             .dispatcher = dispatcher_,
             .model = model_,
             .makeDetailWindow = desktop::makeWindowFactory([this](QWidget& window) {
+                platform_->prepareDetailWindow(window);
                 fillDetailWindow(window, detailContext(panels_.context(), machine_, bluetooth_, dispatcher_));
             }),
             .makePopover = platform_->popovers(),

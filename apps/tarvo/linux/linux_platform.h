@@ -37,6 +37,7 @@ public:
     void setLaunchAtLogin(bool launches) override { autostart_.setOn(launches); }
     StatusBar& statusBar() override;
     PopoverFactory popovers() override;
+    void prepareDetailWindow(QWidget&) override {}
     HotKeys& hotKeys(const std::string& description) override;
     LKey hotKeyText() const override;
     void start(PlatformEvents events) override;

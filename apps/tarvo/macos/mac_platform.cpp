@@ -15,8 +15,11 @@
 #include "platform/macos/running_application_icons.h"
 #include "platform/macos/termination_observer.h"
 #include "platform/macos/url_session_client.h"
+#include "platform/macos/window_style.h"
 #include "platform/macos/workspace.h"
 #include "platform/posix/posix_child_processes.h"
+
+#include <QWidget>
 
 #include <optional>
 #include <utility>
@@ -48,6 +51,7 @@ public:
     void setLaunchAtLogin(bool launches) override { loginItem_.setOn(launches); }
     StatusBar& statusBar() override { return statusBar_; }
     PopoverFactory popovers() override;
+    void prepareDetailWindow(QWidget& window) override;
     HotKeys& hotKeys(const std::string&) override { return hotKeys_; }
     LKey hotKeyText() const override;
     void start(PlatformEvents events) override;
@@ -92,6 +96,11 @@ std::shared_ptr<Automations> MacPlatform::automations() {
 PopoverFactory MacPlatform::popovers() {
     return desktop::makePopoverFactory(
         {.composites = [] { return true; }, .pointerPosition = desktop::pointerPosition});
+}
+
+void MacPlatform::prepareDetailWindow(QWidget& window) {
+    const double covered = extendContentBelowTitleBar(window.winId());
+    window.setContentsMargins(0, static_cast<int>(covered), 0, 0);
 }
 
 // Whether another program holds the keys is not told.

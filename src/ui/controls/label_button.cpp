@@ -55,7 +55,7 @@ void LabelButton::paintEvent(QPaintEvent*) {
 void LabelButton::paintGround(QPainter& painter) const {
     const Theme shades = theme();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isProminent_ ? shades.gradient(color_, rect())
+    painter.setBrush(isProminent_ ? shades.groundGradient(color_, rect())
                                   : QBrush(shades.color(colors::primary.withOpacity(0.06 + emphasis()))));
     painter.drawRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
     if (!isProminent_ || emphasis() <= 0) return;

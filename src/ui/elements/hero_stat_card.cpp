@@ -58,7 +58,7 @@ void HeroStatCard::paintGround(QPainter& painter) const {
     for (std::size_t index = 0; index < colors.size(); ++index) {
         const double place =
             colors.size() < 2 ? 0 : static_cast<double>(index) / static_cast<double>(colors.size() - 1);
-        gradient.setColorAt(place, shades.color(colors[index]));
+        gradient.setColorAt(place, shades.ground(colors[index]));
     }
     painter.setPen(QPen(shades.color(ui::colors::white.withOpacity(0.15)), 1));
     painter.setBrush(colors.empty() ? QBrush(Qt::NoBrush) : QBrush(gradient));

@@ -27,7 +27,7 @@ void fillCapsule(QPainter& painter, const QRectF& area, const QBrush& brush) {
 void paintIconTile(QPainter& painter, const Theme& theme, const QRectF& area, const IconTile& tile,
                    Color color) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.gradient(color, area));
+    painter.setBrush(theme.groundGradient(color, area));
     painter.drawRoundedRect(area, tile.cornerRadius, tile.cornerRadius);
     QRectF symbol(0, 0, tile.symbolSize, tile.symbolSize);
     symbol.moveCenter(area.center());

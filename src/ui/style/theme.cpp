@@ -45,6 +45,15 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+QBrush softGradient(const QColor& base, const QRectF& area) {
+    QColor top = mixed(base, Qt::white, 0.16);
+    top.setAlphaF(base.alphaF());
+    QLinearGradient gradient(area.topLeft(), area.bottomLeft());
+    gradient.setColorAt(0, top);
+    gradient.setColorAt(1, base);
+    return gradient;
+}
+
 } // namespace
 
 Theme::Theme(const QPalette& palette)
@@ -63,13 +72,19 @@ QColor Theme::color(Color color) const {
 }
 
 QBrush Theme::gradient(Color color, const QRectF& area) const {
-    const QColor base = this->color(color);
-    QColor top = mixed(base, Qt::white, 0.16);
-    top.setAlphaF(base.alphaF());
-    QLinearGradient gradient(area.topLeft(), area.bottomLeft());
-    gradient.setColorAt(0, top);
-    gradient.setColorAt(1, base);
-    return gradient;
+    return softGradient(this->color(color), area);
+}
+
+QColor Theme::ground(Color color) const {
+    const auto index = static_cast<std::size_t>(color.name);
+    if (index >= shadeCount) return this->color(color);
+    QColor shade = QColor::fromRgba(shades[index].light);
+    shade.setAlphaF(static_cast<float>(color.opacity));
+    return shade;
+}
+
+QBrush Theme::groundGradient(Color color, const QRectF& area) const {
+    return softGradient(ground(color), area);
 }
 
 double contrastRatio(const QColor& first, const QColor& second) {

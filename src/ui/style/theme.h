@@ -22,6 +22,10 @@ public:
     QColor color(Color color) const;
     /// The soft vertical gradient that fills take instead of a flat colour.
     QBrush gradient(Color color, const QRectF& area) const;
+    /// The shade that white text and symbols stand on: as deep in the dark as in the light.
+    QColor ground(Color color) const;
+    /// Its soft vertical gradient.
+    QBrush groundGradient(Color color, const QRectF& area) const;
 
 private:
     bool dark_;

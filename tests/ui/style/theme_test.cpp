@@ -61,6 +61,21 @@ TEST(Theme, KeepsEveryNamedColourVisibleOnCards) {
     }
 }
 
+TEST(Theme, KeepsWhiteReadableOnItsGroundsInLightAndDark) {
+    constexpr Color ofLargeCards[] = {colors::blue, colors::indigo, colors::purple, colors::pink};
+    for (const QPalette& palette : palettes) {
+        const Theme theme(palette);
+        for (const Color color : ofLargeCards) {
+            const QColor ground = theme.ground(color);
+            EXPECT_GE(contrastRatio(Qt::white, ground), 4.5) << static_cast<int>(color.name);
+            EXPECT_EQ(ground, Theme(lightPalette()).ground(color));
+        }
+        EXPECT_GE(contrastRatio(Qt::white, theme.ground(colors::yellow)), 2.2);
+        EXPECT_NEAR(theme.ground(colors::blue.withOpacity(0.5)).alphaF(), 0.5, 0.01);
+        EXPECT_EQ(theme.ground(colors::primary), theme.color(colors::primary));
+    }
+}
+
 TEST(Theme, AppliesOpacity) {
     const Theme theme(lightPalette());
     EXPECT_NEAR(theme.color(colors::primary.withOpacity(0.1)).alphaF(), 0.1, 0.01);

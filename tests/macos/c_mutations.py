@@ -4,7 +4,8 @@ source, compiles that, lets the test program load it in place of the right one a
 compiler to refuse.
 
 Usage: c_mutations.py COMPILER ROOT TEST_OBJECTS LIBRARIES        (lists of paths separated by colons)
-With TARVO_ALL_MISTAKES in the environment all mistakes are made, otherwise the first of each kind in each file.
+With --all at the end, or TARVO_ALL_MISTAKES in the environment, all mistakes are made; otherwise one in each file, of
+all kinds.
 Prints one line a mistake, NOTICED or MISSED, and exits 1 when one is missed.
 """
 import concurrent.futures
@@ -184,9 +185,16 @@ class Workshop:
 
 
 def chosen():
-    if os.environ.get("TARVO_ALL_MISTAKES"):
+    if sys.argv[-1] == "--all" or os.environ.get("TARVO_ALL_MISTAKES"):
         return MISTAKES
-    return list({mistake[:2]: mistake for mistake in reversed(MISTAKES)}.values())[::-1]
+    sample, times = [], dict.fromkeys((kind for kind, *_ in MISTAKES), 0)
+    for file in dict.fromkeys(file for _, file, *_ in MISTAKES):
+        # Of the kind that was chosen least often until now.
+        mistake = min((each for each in MISTAKES if each[1] == file), key=lambda each: times[each[0]])
+        times[mistake[0]] += 1
+        sample.append(mistake)
+    assert all(times.values()), f"a kind without a sample: {times}"
+    return sample
 
 
 def main():

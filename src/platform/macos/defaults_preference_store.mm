@@ -4,6 +4,7 @@
 
 #import <CoreFoundation/CoreFoundation.h>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -17,8 +18,10 @@ PreferenceValue numberValue(NSNumber* number) {
     return std::int64_t{number.longLongValue};
 }
 
+/// A date may lie outside what a WallTime counts, as that of "never" does.
 WallTime wallTime(NSDate* date) {
-    const Seconds sinceEpoch{date.timeIntervalSince1970};
+    constexpr double reach = 9.2e9; // seconds before and after 1970: 291 years
+    const Seconds sinceEpoch{std::clamp(date.timeIntervalSince1970, -reach, reach)};
     return WallTime(std::chrono::duration_cast<WallTime::duration>(sinceEpoch));
 }
 

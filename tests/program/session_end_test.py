@@ -2,12 +2,13 @@
 import json
 import os
 import signal
+import time
 import unittest
 
 from support.case import ProgramCase
 from support.program import Tarvo
 from support.session_manager import NEVER, SessionManager
-from support.waiting import wait_for
+from support.waiting import LIMIT, wait_for
 
 
 WIDTH = 1280
@@ -76,6 +77,13 @@ class SessionEnd(ProgramCase):
         program = self.start_bar()
         os.kill(program.process.pid, signal.SIGTERM)
         os.kill(program.process.pid, signal.SIGINT)
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_signals_while_it_ends_do_not_cut_it_short(self):
+        program = self.start_bar()
+        limit = time.monotonic() + LIMIT
+        while program.process.poll() is None and time.monotonic() < limit:
+            os.kill(program.process.pid, signal.SIGTERM)
         self.assertEqual(program.wait_for_end(), 0)
 
     def test_the_end_of_the_display_ends_it_with_status_0(self):

@@ -42,7 +42,8 @@ TerminationSignals::TerminationSignals(std::function<void()> asked) {
 }
 
 TerminationSignals::~TerminationSignals() {
-    setHandler(SIG_DFL);
+    // The end is under way: who asks again, as timeout(1) does at once, must not cut it short.
+    setHandler(SIG_IGN);
     wakeUpPipe = -1;
 }
 

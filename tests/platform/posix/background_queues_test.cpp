@@ -69,15 +69,18 @@ TEST(BackgroundQueues, SlowToolsMayWaitSideBySide) {
     BackgroundQueues queues;
     std::promise<void> first;
     std::promise<void> second;
+    std::promise<void> waited;
     // Each ends only when the other has begun.
     queues.global([&] {
         first.set_value();
         second.get_future().wait();
+        waited.set_value();
     });
     queues.global([&] {
         first.get_future().wait();
         second.set_value();
     });
+    waited.get_future().wait(); // tasks that have not begun would be dropped at the end
     EXPECT_TRUE(queues.finish(30s));
 }
 

@@ -99,18 +99,21 @@ TEST(WorkerThreads, WhatATaskHoldsIsReleasedWhenItHasRun) {
 
 TEST(WorkerThreads, DestroyingItWaitsForTheTaskThatRunsAndDropsTheOthers) {
     std::promise<void> started;
+    std::promise<void> queued;
     std::atomic<bool> ended = false;
     std::atomic<bool> second = false;
     {
         WorkerThreads workers(1);
         workers.async([&] {
             started.set_value();
+            queued.get_future().wait();
             for (int i = 0; i < 1000; ++i)
                 std::this_thread::yield();
             ended = true;
         });
         started.get_future().wait();
         workers.async([&] { second = true; });
+        queued.set_value();
     }
     EXPECT_TRUE(ended);
     EXPECT_FALSE(second);

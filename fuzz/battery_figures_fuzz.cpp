@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -58,6 +59,10 @@ public:
     std::optional<PowerSourceList> descriptions() override { return PowerSourceList{description_.source}; }
     std::optional<std::vector<PropertyDictionary>> services(std::string_view) override {
         return std::vector{description_.registryEntry};
+    }
+    std::optional<PropertyDictionary> properties(std::string_view,
+                                                 std::span<const std::string_view>) override {
+        return description_.registryEntry;
     }
 
 private:

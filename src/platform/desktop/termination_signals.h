@@ -10,8 +10,8 @@
 
 namespace tarvo::desktop {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread. One in a process; once it is gone, the process
-/// ends and these signals do nothing.
+/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread. One in a process; once it is gone, the
+/// process ends and these signals do nothing.
 class TerminationSignals {
 public:
     explicit TerminationSignals(std::function<void()> asked);

@@ -19,11 +19,6 @@ add_library(tarvo_options INTERFACE)
 target_compile_options(tarvo_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
   -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough -Wundef)
-if(TARVO_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # GCC's flow warnings are known to be false where sanitizers rewrite the flow; the plain builds keep them.
-  target_compile_options(tarvo_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread
-    -Wno-restrict -Wno-maybe-uninitialized)
-endif()
 if(TARVO_WERROR)
   target_compile_options(tarvo_options INTERFACE -Werror)
 endif()

@@ -3,6 +3,12 @@
 #include <cstdlib>
 #include <new>
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define TARVO_SANITIZER_ALLOCATES
+#endif
+#endif
+
 namespace {
 
 thread_local std::size_t count = 0;
@@ -16,6 +22,16 @@ std::size_t allocationCount() {
 }
 
 } // namespace tarvo
+
+#ifdef TARVO_SANITIZER_ALLOCATES
+
+// Clang's sanitizers have a new of their own, which checks what is deleted, and tell of each allocation.
+extern "C" void __sanitizer_malloc_hook(const volatile void*, std::size_t);
+void __sanitizer_malloc_hook(const volatile void*, std::size_t) {
+    ++count;
+}
+
+#else
 
 void* operator new(std::size_t size) {
     ++count;
@@ -35,3 +51,5 @@ void operator delete(void* memory) noexcept {
 void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
+
+#endif

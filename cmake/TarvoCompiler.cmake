@@ -103,5 +103,6 @@ function(tarvo_test name)
     target_precompile_headers(${name} REUSE_FROM tarvo_test_headers)
   endif()
   target_compile_definitions(${name} PRIVATE TARVO_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-  gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+  gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 120 PROCESSORS 2)
 endfunction()
